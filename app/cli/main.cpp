@@ -1,0 +1,23 @@
+#include "Befehle.h"
+#include "Optionen.h"
+
+#include "platform/Zahlformat.h"
+
+#include <QCoreApplication>
+#include <cstdio>
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName("vemo0100");
+    QString fehler;
+    const auto optionen = optionenLesen(app.arguments().mid(1), fehler);
+    if (!optionen) {
+        std::fprintf(stderr, "vemo0100: %s\n%s", fehler.toLocal8Bit().constData(), Gebrauch);
+        return 2;
+    }
+    if (optionen->locale.isEmpty())
+        vemo::zahlformat::ausUmgebung();
+    else
+        vemo::zahlformat::setzen(QLocale(optionen->locale));
+    return befehlAusführen(*optionen);
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "language/Sprachen.h"
+#include "store/Datenbank.h"
+#include "store/Fehler.h"
+
+#include <QStringList>
+#include <QVariant>
+#include <functional>
+
+namespace vemo {
+
+class Ui;
+class SettingsStore;
+
+// The module variables: the state that the dialogs and parsers of the component share. There is
+// one such state per loaded component; a second instance of the public class shares it.
+struct ModulState {
+    Datenbank db; // the host's database, opened by vemotrixDBName
+    QString datenbankName;
+    QString Datenbankverzeichnis; // where all working files lie
+
+    QStringList selektorTabelle = QStringList(51); // index 4 the Selektor, 19 and 22 "LastFile" lines
+    QString& Selektor() { return selektorTabelle[4]; }
+
+    double aktuellesPrüfgerät = 0; // the Prüfgerät record of this read-in
+    qint16 Abbruchmerker = 0;      // 1: the run failed or the user aborted
+    int Empfangsende = 0;          // 1: leave the reception loops
+    QString dateinameGewählt;      // the source file of a file read; empty for a serial transfer
+    QString arbeitsquelle;         // the file being worked on
+    QString backupPfad;
+    QString backupNummer;
+    bool DatenloggerMode = false;
+    QString datenpoolModus;
+
+    QStringList mnuTexte; // \Ruvo.MNU, up to 500 entries from index 1
+    QStringList mulTexte; // \Ruvo.MUL, up to 30 entries from index 1
+
+    // Properties of the public class held as module values.
+    QVariant vmxReplicaID;
+    QVariant BackupVerzeichnis;
+    qint32 hWndAccess = 0;
+    QVariant ListeKundeID;
+    QVariant ListePrüfungID;
+    QVariant ListeAnlageID;
+    qint32 CommPort = 0;
+    QVariant PrüfgerätID;
+    QVariant EinlesedatenID;
+    QVariant EinlesedatenIDRow;
+    QVariant PrüfgeräteTypID;
+    QString anwendungstitel = "vemotrix professional"; // the title of every message box
+    QVariant applicationNameWert; // what reading ApplicationName yields; nothing ever sets it
+    // A device path given directly (command line), in place of the port number's mapping.
+    QString portPfad;
+
+    Sprachen sprachen;
+
+    Ui* ui = nullptr;
+    SettingsStore* settings = nullptr;
+};
+
+ModulState& modul();
+// A fresh module state, as when the component is loaded anew; the seams stay.
+void modulNeuLaden();
+
+// Shortcuts the whole component uses.
+Ui& ui();
+SettingsStore& settings();
+Datenbank& db();
+QString xText(const QString& text);
+
+// The standard trap: number, one blank and description in a message box titled with the
+// application's title.
+void fehlerZeigen(const Fehler& f);
+
+// Runs a routine under the standard trap; false when it ended in an error that was shown.
+bool mitFalle(const std::function<void()>& routine);
+
+} // namespace vemo

@@ -1,0 +1,11 @@
+#include "platform/QtUi.h"
+
+namespace vemo {
+
+// One line a dialog: the controller's class name and how its view is made.
+const std::map<QString, Ansichtsfabrik>& ansichten() {
+    static const std::map<QString, Ansichtsfabrik> tabelle{};
+    return tabelle;
+}
+
+} // namespace vemo

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/Ui.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+class QDialog;
+
+namespace vemo {
+
+// Creates the view of a dialog controller; the view is a QDialog owned by its parent.
+using Ansichtsfabrik = std::function<QDialog*(DialogController&, QWidget* eltern)>;
+
+// The Ui of the windowed programs: message boxes, the open-file dialog, the busy cursor, and one
+// view per dialog controller, looked up by the controller's class name.
+class QtUi : public Ui {
+public:
+    explicit QtUi(QWidget* hauptfenster = nullptr) : m_hauptfenster(hauptfenster) {}
+    void setHauptfenster(QWidget* w) { m_hauptfenster = w; }
+
+    int MsgBox(const QString& text, const QString& titel, const MsgStil& stil = {}) override;
+    std::optional<QString> dateiÖffnen(const DateiDialog& dialog) override;
+    void sanduhr(bool an) override;
+    void DoEvents() override;
+    int zeigeModal(DialogController& dialog) override;
+    void zeigeNichtModal(DialogController& dialog) override;
+    int textBreite(const QString& text) override;
+
+private:
+    QDialog* ansichtErstellen(DialogController& dialog);
+    QPointer<QWidget> m_hauptfenster;
+};
+
+// The views of the dialogs, by the class name of their controller.
+const std::map<QString, Ansichtsfabrik>& ansichten();
+
+} // namespace vemo

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "store/Recordset.h"
+
+#include <QMap>
+#include <QString>
+#include <QVariant>
+#include <memory>
+
+namespace vemo {
+
+namespace detail {
+class Verbindung;
+}
+
+// A saved query of the database with its parameters.
+class QueryDef {
+public:
+    QVariant& Parameters(const QString& name); // raises 3265 for a name the query does not declare
+    Recordset OpenRecordset() const;
+    QString Name() const { return m_name; }
+
+private:
+    friend class Datenbank;
+    std::shared_ptr<detail::Verbindung> m_v;
+    QString m_name;
+    QString m_text;
+    QStringList m_parameter;
+    QVector<QVariant> m_werte;
+};
+
+// An open database, shared with the host: WAL journal, synchronous=NORMAL, a busy timeout.
+// Copies refer to the same connection. Statements are written in the host's dialect.
+class Datenbank {
+public:
+    Datenbank();
+    // Opens an existing database; a connection text such as "MS Access;pwd=..." is accepted and
+    // has no meaning for this store.
+    static Datenbank OpenDatabase(const QString& pfad, const QString& verbindungsText = {});
+    // Creates the file when it does not exist.
+    static Datenbank anlegen(const QString& pfad);
+
+    bool istOffen() const { return bool(m_v); }
+    QString Name() const;
+    void Close();
+
+    Recordset OpenRecordset(const QString& quelle) const;
+    void Execute(const QString& anweisung) const;
+    void TableDefs(const QString& name) const; // raises 3078 when there is no such table
+    bool hatTabelle(const QString& name) const;
+    bool abfrageVorhanden(const QString& name) const;
+    QueryDef QueryDefs(const QString& name) const;
+
+    // Runs native SQLite statements, one after another (schema scripts, host data).
+    void skriptAusführen(const QString& sql) const;
+    // Stores a saved query in the host's dialect.
+    void abfrageSpeichern(const QString& name, const QString& text) const;
+
+private:
+    detail::Verbindung& v() const;
+    std::shared_ptr<detail::Verbindung> m_v;
+};
+
+} // namespace vemo

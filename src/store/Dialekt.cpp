@@ -1,0 +1,347 @@
+#include "store/Dialekt.h"
+
+#include <vector>
+
+namespace vemo {
+namespace {
+
+enum class Art { Leer, Wort, Zahl, Text, Name, Datum, Zeichen };
+
+struct Token {
+    Art art;
+    QString text; // Text, Name, Datum: the content without quotes; others: as written
+};
+
+bool istWortZeichen(QChar c) { return c.isLetterOrNumber() || c == '_' || c.unicode() >= 0x80; }
+
+std::vector<Token> zerlegen(const QString& s) {
+    std::vector<Token> t;
+    int i = 0;
+    const int n = s.size();
+    auto bis = [&](QChar ende, int ab) {
+        QString inhalt;
+        int k = ab;
+        while (k < n) {
+            if (s[k] == ende) {
+                if (ende != ']' && k + 1 < n && s[k + 1] == ende) { // doubled quote
+                    inhalt += ende;
+                    k += 2;
+                    continue;
+                }
+                break;
+            }
+            inhalt += s[k++];
+        }
+        i = std::min(k + 1, n);
+        return inhalt;
+    };
+    while (i < n) {
+        const QChar c = s[i];
+        if (c.isSpace()) {
+            int k = i;
+            while (k < n && s[k].isSpace())
+                ++k;
+            t.push_back({Art::Leer, s.mid(i, k - i)});
+            i = k;
+        } else if (c == '\'' || c == '"') {
+            t.push_back({Art::Text, bis(c, i + 1)});
+        } else if (c == '[') {
+            t.push_back({Art::Name, bis(']', i + 1)});
+        } else if (c == '#' && i + 1 < n && s[i + 1].isDigit()) {
+            t.push_back({Art::Datum, bis('#', i + 1)});
+        } else if (c.isDigit() || (c == '.' && i + 1 < n && s[i + 1].isDigit() &&
+                                   (t.empty() || t.back().art != Art::Name))) {
+            int k = i;
+            while (k < n && (s[k].isDigit() || s[k] == '.'))
+                ++k;
+            if (k < n && istWortZeichen(s[k]) && s.mid(i, k - i).indexOf('.') < 0) {
+                while (k < n && istWortZeichen(s[k]))
+                    ++k;
+                t.push_back({Art::Name, s.mid(i, k - i)}); // a digit-leading name: 0100_Messung
+            } else {
+                t.push_back({Art::Zahl, s.mid(i, k - i)});
+            }
+            i = k;
+        } else if (istWortZeichen(c)) {
+            int k = i;
+            while (k < n && istWortZeichen(s[k]))
+                ++k;
+            t.push_back({Art::Wort, s.mid(i, k - i)});
+            i = k;
+        } else {
+            const QString zwei = s.mid(i, 2);
+            if (zwei == "<>" || zwei == "<=" || zwei == ">=" || zwei == "||") {
+                t.push_back({Art::Zeichen, zwei});
+                i += 2;
+            } else {
+                t.push_back({Art::Zeichen, QString(c)});
+                ++i;
+            }
+        }
+    }
+    return t;
+}
+
+bool ist(const Token& t, const char* wort) {
+    return (t.art == Art::Wort || t.art == Art::Zeichen) && t.text.compare(wort, Qt::CaseInsensitive) == 0;
+}
+
+// Index of the next token that is not blank, from i on; n when none.
+size_t nächstes(const std::vector<Token>& t, size_t i) {
+    while (i < t.size() && t[i].art == Art::Leer)
+        ++i;
+    return i;
+}
+
+// The significant tokens, blanks dropped at both ends.
+std::vector<Token> ohneRand(std::vector<Token> t) {
+    while (!t.empty() && t.back().art == Art::Leer)
+        t.pop_back();
+    size_t a = nächstes(t, 0);
+    return std::vector<Token>(t.begin() + long(a), t.end());
+}
+
+QStringList parameterAbtrennen(std::vector<Token>& t) {
+    QStringList namen;
+    if (t.empty() || !ist(t[0], "PARAMETERS"))
+        return namen;
+    size_t i = 1;
+    bool erwarteName = true;
+    for (; i < t.size() && !ist(t[i], ";"); ++i) {
+        if (t[i].art == Art::Leer)
+            continue;
+        if (ist(t[i], ",")) {
+            erwarteName = true;
+        } else if (erwarteName && (t[i].art == Art::Wort || t[i].art == Art::Name)) {
+            namen << t[i].text;
+            erwarteName = false;
+        }
+    }
+    t = ohneRand(std::vector<Token>(t.begin() + long(std::min(i + 1, t.size())), t.end()));
+    return namen;
+}
+
+// "(SELECT ... ;)" and a trailing ";" reduce to the bare statement.
+void hülleEntfernen(std::vector<Token>& t) {
+    for (;;) {
+        while (!t.empty() && (ist(t.back(), ";") || t.back().art == Art::Leer))
+            t.pop_back();
+        if (t.size() < 2 || !ist(t.front(), "(") || !ist(t.back(), ")"))
+            return;
+        int tiefe = 0;
+        for (size_t i = 0; i < t.size(); ++i) {
+            if (ist(t[i], "("))
+                ++tiefe;
+            else if (ist(t[i], ")") && --tiefe == 0 && i + 1 < t.size())
+                return; // the first bracket closes before the end: no wrapper
+        }
+        t = ohneRand(std::vector<Token>(t.begin() + 1, t.end() - 1));
+    }
+}
+
+// The extent of the operand that ends just before position i (blanks skipped): a literal, a
+// qualified name, a bracketed group, or a function call.
+size_t operandLinks(const std::vector<Token>& t, size_t i) {
+    size_t k = i;
+    while (k > 0 && t[k - 1].art == Art::Leer)
+        --k;
+    if (k == 0)
+        return i;
+    size_t a = k - 1;
+    if (ist(t[a], ")")) {
+        int tiefe = 0;
+        for (;; --a) {
+            if (ist(t[a], ")"))
+                ++tiefe;
+            else if (ist(t[a], "(") && --tiefe == 0)
+                break;
+            if (a == 0)
+                return 0;
+        }
+        if (a > 0 && t[a - 1].art == Art::Wort)
+            --a;
+        return a;
+    }
+    while (a >= 2 && ist(t[a - 1], ".") && (t[a - 2].art == Art::Wort || t[a - 2].art == Art::Name))
+        a -= 2;
+    return a;
+}
+
+size_t operandRechts(const std::vector<Token>& t, size_t i) {
+    size_t a = nächstes(t, i);
+    if (a >= t.size())
+        return a;
+    size_t e = a;
+    if (t[e].art == Art::Wort && e + 1 < t.size() && ist(t[e + 1], "("))
+        ++e;
+    if (ist(t[e], "(")) {
+        int tiefe = 0;
+        for (; e < t.size(); ++e) {
+            if (ist(t[e], "("))
+                ++tiefe;
+            else if (ist(t[e], ")") && --tiefe == 0)
+                break;
+        }
+        return std::min(e + 1, t.size());
+    }
+    ++e;
+    while (e + 1 < t.size() && ist(t[e], ".") && (t[e + 1].art == Art::Wort || t[e + 1].art == Art::Name))
+        e += 2;
+    return e;
+}
+
+// a & b becomes ifnull(a,'') || ifnull(b,''): the dialect's & reads Null as an empty text.
+void verkettungUmsetzen(std::vector<Token>& t) {
+    for (size_t i = 0; i < t.size(); ++i) {
+        if (!ist(t[i], "&"))
+            continue;
+        const size_t links = operandLinks(t, i);
+        const size_t rechtsAnfang = nächstes(t, i + 1);
+        const size_t rechtsEnde = operandRechts(t, i + 1);
+        const auto mitLeerText = [](std::vector<Token>& v, auto von, auto bis) {
+            v.push_back({Art::Wort, "ifnull"});
+            v.push_back({Art::Zeichen, "("});
+            v.insert(v.end(), von, bis);
+            v.push_back({Art::Zeichen, ","});
+            v.push_back({Art::Text, ""});
+            v.push_back({Art::Zeichen, ")"});
+        };
+        std::vector<Token> neu(t.begin(), t.begin() + long(links));
+        mitLeerText(neu, t.begin() + long(links), t.begin() + long(i));
+        neu.push_back({Art::Zeichen, " || "});
+        mitLeerText(neu, t.begin() + long(rechtsAnfang), t.begin() + long(rechtsEnde));
+        const size_t weiter = neu.size();
+        neu.insert(neu.end(), t.begin() + long(rechtsEnde), t.end());
+        t = std::move(neu);
+        i = weiter - 1;
+    }
+}
+
+QString zitiert(const QString& s, QChar q) {
+    QString innen = s;
+    innen.replace(q, QString(q) + q);
+    return q + innen + q;
+}
+
+// The dialect's wildcards * and ? in a pattern after Like.
+bool nachLike(const std::vector<Token>& t, size_t i) {
+    while (i > 0 && t[i - 1].art == Art::Leer)
+        --i;
+    return i > 0 && ist(t[i - 1], "LIKE");
+}
+
+QString likeMuster(QString m) { return m.replace('*', '%').replace('?', '_'); }
+
+int parameterIndex(const QStringList& parameter, const QString& name) {
+    for (int j = 0; j < parameter.size(); ++j)
+        if (parameter[j].compare(name, Qt::CaseInsensitive) == 0)
+            return j;
+    return -1;
+}
+
+QString ausgeben(const std::vector<Token>& t, const QStringList& parameter) {
+    QString out;
+    for (size_t i = 0; i < t.size(); ++i) {
+        const Token& k = t[i];
+        switch (k.art) {
+        case Art::Text:
+            out += zitiert(nachLike(t, i) ? likeMuster(k.text) : k.text, '\'');
+            break;
+        case Art::Datum:
+            out += zitiert(k.text, '\'');
+            break;
+        case Art::Name: {
+            const int pi = parameterIndex(parameter, k.text);
+            out += pi >= 0 ? "?" + QString::number(pi + 1) : zitiert(k.text, '"');
+            break;
+        }
+        case Art::Wort: {
+            const int pi = parameterIndex(parameter, k.text);
+            if (pi >= 0)
+                out += "?" + QString::number(pi + 1);
+            else if (ist(k, "True"))
+                out += "-1";
+            else if (ist(k, "False"))
+                out += "0";
+            else
+                out += k.text;
+            break;
+        }
+        case Art::Zeichen:
+            if (ist(k, "*") && i >= 1) {
+                const size_t vor = [&] {
+                    size_t a = i;
+                    while (a > 0 && t[a - 1].art == Art::Leer)
+                        --a;
+                    return a == 0 ? size_t(-1) : a - 1;
+                }();
+                if (vor != size_t(-1) && ist(t[vor], "DELETE")) {
+                    if (i + 1 < t.size() && t[i + 1].art == Art::Leer)
+                        ++i;
+                    break; // DELETE * FROM
+                }
+            }
+            out += ist(k, "/") ? QString("* 1.0 /") : k.text;
+            break;
+        default:
+            out += k.text;
+        }
+    }
+    return out;
+}
+
+bool istEinfacheAuswahl(const std::vector<Token>& t) {
+    if (t.empty() || !ist(t[0], "SELECT"))
+        return false;
+    int tiefe = 0;
+    for (const Token& k : t) {
+        if (ist(k, "("))
+            ++tiefe;
+        else if (ist(k, ")"))
+            --tiefe;
+        else if (ist(k, ","))
+            continue;
+        else if (tiefe == 0 && (ist(k, "DISTINCT") || ist(k, "GROUP") || ist(k, "HAVING") ||
+                                ist(k, "UNION") || ist(k, "JOIN") || ist(k, "TOP")))
+            return false;
+        else if (tiefe > 0 && ist(k, "SELECT"))
+            return false;
+    }
+    // Several tables after FROM, separated by commas, are a join as well.
+    bool nachFrom = false;
+    tiefe = 0;
+    for (const Token& k : t) {
+        if (ist(k, "("))
+            ++tiefe;
+        else if (ist(k, ")"))
+            --tiefe;
+        else if (tiefe == 0 && ist(k, "FROM"))
+            nachFrom = true;
+        else if (tiefe == 0 && (ist(k, "WHERE") || ist(k, "ORDER")))
+            nachFrom = false;
+        else if (nachFrom && tiefe == 0 && ist(k, ","))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+Übersetzung übersetzen(const QString& statement) {
+    std::vector<Token> t = ohneRand(zerlegen(statement));
+    Übersetzung ü;
+    ü.parameter = parameterAbtrennen(t);
+    hülleEntfernen(t);
+    verkettungUmsetzen(t);
+    ü.sql = ausgeben(t, ü.parameter);
+    ü.einfacheAuswahl = istEinfacheAuswahl(t);
+    if (ü.einfacheAuswahl) {
+        std::vector<Token> mit(t.begin(), t.begin() + 1);
+        mit.push_back({Art::Wort, " rowid AS vemo_rowid,"});
+        mit.insert(mit.end(), t.begin() + 1, t.end());
+        ü.sqlMitRowid = ausgeben(mit, ü.parameter);
+    }
+    return ü;
+}
+
+} // namespace vemo

@@ -1,0 +1,593 @@
+#include "store/Recordset.h"
+
+#include "store/Dialekt.h"
+#include "store/Fehler.h"
+#include "store/Kriterium.h"
+#include "store/Variant.h"
+#include "store/Verbindung.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <climits>
+#include <map>
+#include <vector>
+
+namespace vemo {
+namespace detail {
+
+struct Spalte {
+    QString name;
+    QString typ;
+    int tabellenIndex = -1; // the column of the writable table it comes from
+};
+
+struct Zeile {
+    qint64 rowid = 0;
+    Bookmark marke = 0;
+    QVector<QVariant> werte;
+};
+
+struct RecordsetDaten {
+    enum class Modus { Keiner, Neu, Ändern };
+    static constexpr int Seitengröße = 64;
+
+    std::shared_ptr<Verbindung> v;
+    QString name;
+    bool offen = true;
+
+    bool seitenweise = false; // a table opened by name
+    const Verbindung::Tabelle* tabelle = nullptr; // the table rows are written to; null: read-only
+    QString abfrage;
+    bool mitRowid = false;
+    QVector<QVariant> parameter;
+    QVector<Spalte> spalten;
+
+    std::vector<Zeile> zeilen;
+    bool vollständig = false;
+    qint64 letzteRowid = LLONG_MIN;
+    std::map<qint64, Bookmark> vorgemerkt; // rows added here that paging has not reached yet
+    Bookmark nächsteMarke = 1;
+
+    long pos = 0;
+    bool nachLöschen = false;
+    long besucht = 0;
+    Bookmark zuletztGeändert = 0;
+    bool noMatch = false;
+
+    Modus modus = Modus::Keiner;
+    QVector<QVariant> puffer;
+    QVector<bool> gesetzt;
+
+    void prüfeOffen() const {
+        if (!offen)
+            throw Fehler(3420, "Objekt ungültig oder nicht mehr festgelegt.");
+    }
+    long anzahlGeladen() const { return long(zeilen.size()); }
+
+    Bookmark markeFür(qint64 rowid) {
+        if (auto it = vorgemerkt.find(rowid); it != vorgemerkt.end()) {
+            const Bookmark m = it->second;
+            vorgemerkt.erase(it);
+            return m;
+        }
+        return nächsteMarke++;
+    }
+
+    void seiteLaden() {
+        QString t = tabelle->name;
+        Schritt s(v->anweisung("SELECT rowid, * FROM \"" + t.replace('"', "\"\"") +
+                               "\" WHERE rowid > ?1 ORDER BY rowid LIMIT " + QString::number(Seitengröße)));
+        s.binden(1, QVariant(qlonglong(letzteRowid)));
+        int n = 0;
+        while (s.weiter()) {
+            Zeile z;
+            z.rowid = s.wert(0).toLongLong();
+            for (int i = 0; i < spalten.size(); ++i)
+                z.werte << s.wert(i + 1, spalten[i].typ);
+            z.marke = markeFür(z.rowid);
+            letzteRowid = z.rowid;
+            zeilen.push_back(std::move(z));
+            ++n;
+        }
+        if (n < Seitengröße)
+            vollständig = true;
+    }
+
+    // Makes row i available if the set has it.
+    bool holen(long i) {
+        while (i >= anzahlGeladen() && !vollständig)
+            seiteLaden();
+        return i >= 0 && i < anzahlGeladen();
+    }
+    void allesLaden() { holen(LONG_MAX - 1); }
+
+    void abfrageLaden() {
+        Schritt s(v->anweisung(abfrage));
+        for (int i = 0; i < parameter.size(); ++i)
+            s.binden(i + 1, parameter[i]);
+        const int versatz = mitRowid ? 1 : 0;
+        while (s.weiter()) {
+            Zeile z;
+            z.rowid = mitRowid ? s.wert(0).toLongLong() : 0;
+            for (int i = 0; i < spalten.size(); ++i)
+                z.werte << s.wert(i + versatz, spalten[i].typ);
+            z.marke = nächsteMarke++;
+            zeilen.push_back(std::move(z));
+        }
+        vollständig = true;
+    }
+
+    void laden() {
+        zeilen.clear();
+        vollständig = false;
+        letzteRowid = LLONG_MIN;
+        pos = 0;
+        nachLöschen = false;
+        besucht = 0;
+        if (seitenweise)
+            holen(0);
+        else
+            abfrageLaden();
+        besuchen();
+    }
+
+    void besuchen() {
+        if (pos >= 0 && holen(pos))
+            besucht = std::max(besucht, pos + 1);
+    }
+
+    bool eof() { return pos >= 0 && !holen(pos); }
+    bool leer() { return !holen(0); }
+
+    int index(const QString& feld) const {
+        for (int i = 0; i < spalten.size(); ++i)
+            if (spalten[i].name.compare(feld, Qt::CaseInsensitive) == 0)
+                return i;
+        // "[0100_Anlage].Code" and "Kunde.Name" name the column of a table.
+        static const QRegularExpression klammern("[\\[\\]]");
+        const QString ohne = QString(feld).remove(klammern);
+        if (ohne != feld || ohne.contains('.')) {
+            for (int i = 0; i < spalten.size(); ++i)
+                if (spalten[i].name.compare(ohne, Qt::CaseInsensitive) == 0)
+                    return i;
+            const QString letzter = ohne.section('.', -1);
+            for (int i = 0; i < spalten.size(); ++i)
+                if (spalten[i].name.compare(letzter, Qt::CaseInsensitive) == 0)
+                    return i;
+        }
+        return -1;
+    }
+    int indexOderFehler(const QString& feld) const {
+        const int i = index(feld);
+        if (i < 0)
+            throw fehler::mit(fehler::ElementNichtGefunden, feld);
+        return i;
+    }
+
+    Zeile& aktuelle() {
+        if (nachLöschen)
+            throw fehler::mit(fehler::DatensatzGelöscht);
+        if (pos < 0 || !holen(pos))
+            throw fehler::mit(fehler::KeinAktuellerDatensatz);
+        return zeilen[size_t(pos)];
+    }
+
+    QVariant lesen(int i) {
+        prüfeOffen();
+        if (i < 0 || i >= spalten.size())
+            throw fehler::mit(fehler::ElementNichtGefunden, QString::number(i));
+        if (modus != Modus::Keiner)
+            return puffer[i];
+        return aktuelle().werte[i];
+    }
+
+    void schreiben(int i, const QVariant& wert) {
+        prüfeOffen();
+        if (i < 0 || i >= spalten.size())
+            throw fehler::mit(fehler::ElementNichtGefunden, QString::number(i));
+        if (modus == Modus::Keiner)
+            throw fehler::mit(fehler::OhneAddNewEdit);
+        if (spalten[i].tabellenIndex < 0)
+            throw Fehler(3164, "Das Feld kann nicht aktualisiert werden: " + spalten[i].name);
+        puffer[i] = wert;
+        gesetzt[i] = true;
+    }
+
+    void beschreibbarPrüfen() const {
+        prüfeOffen();
+        if (!tabelle)
+            throw fehler::mit(fehler::Schreibgeschützt, name);
+    }
+
+    QString spaltenName(int i) const {
+        QString n = tabelle->spalten[spalten[i].tabellenIndex];
+        return "\"" + n.replace('"', "\"\"") + "\"";
+    }
+    QString tabellenName() const {
+        QString n = tabelle->name;
+        return "\"" + n.replace('"', "\"\"") + "\"";
+    }
+
+    // The row as the table now holds it, seen through this set's columns.
+    void neuLesen(Zeile& z) {
+        Schritt s(v->anweisung("SELECT * FROM " + tabellenName() + " WHERE rowid = ?1"));
+        s.binden(1, QVariant(qlonglong(z.rowid)));
+        if (!s.weiter())
+            return;
+        if (z.werte.size() != spalten.size())
+            z.werte = QVector<QVariant>(spalten.size(), nullWert());
+        for (int i = 0; i < spalten.size(); ++i) {
+            const int t = spalten[i].tabellenIndex;
+            if (t >= 0)
+                z.werte[i] = s.wert(t, tabelle->typen[t]);
+        }
+    }
+
+    void einfügen() {
+        QStringList namen, platz;
+        QVector<int> welche;
+        for (int i = 0; i < spalten.size(); ++i) {
+            if (!gesetzt[i])
+                continue;
+            welche << i;
+            namen << spaltenName(i);
+            platz << "?" + QString::number(welche.size());
+        }
+        const QString sql = namen.isEmpty() ? "INSERT INTO " + tabellenName() + " DEFAULT VALUES"
+                                            : "INSERT INTO " + tabellenName() + " (" + namen.join(',') +
+                                                  ") VALUES (" + platz.join(',') + ")";
+        {
+            Schritt s(v->anweisung(sql));
+            for (int k = 0; k < welche.size(); ++k) {
+                const int i = welche[k];
+                s.binden(k + 1, puffer[i], tabelle->typen[spalten[i].tabellenIndex]);
+            }
+            s.weiter();
+        }
+        Zeile z;
+        z.rowid = sqlite3_last_insert_rowid(v->db());
+        neuLesen(z);
+        if (vollständig) {
+            z.marke = nächsteMarke++;
+            letzteRowid = std::max(letzteRowid, z.rowid);
+            zeilen.push_back(std::move(z));
+            zuletztGeändert = zeilen.back().marke;
+        } else {
+            zuletztGeändert = nächsteMarke++;
+            vorgemerkt[z.rowid] = zuletztGeändert;
+        }
+    }
+
+    void ändern() {
+        Zeile& z = aktuelle();
+        QStringList zuweisungen;
+        QVector<int> welche;
+        for (int i = 0; i < spalten.size(); ++i) {
+            if (!gesetzt[i])
+                continue;
+            welche << i;
+            zuweisungen << spaltenName(i) + " = ?" + QString::number(welche.size());
+        }
+        if (!welche.isEmpty()) {
+            Schritt s(v->anweisung("UPDATE " + tabellenName() + " SET " + zuweisungen.join(", ") +
+                                   " WHERE rowid = ?" + QString::number(welche.size() + 1)));
+            for (int k = 0; k < welche.size(); ++k) {
+                const int i = welche[k];
+                s.binden(k + 1, puffer[i], tabelle->typen[spalten[i].tabellenIndex]);
+            }
+            s.binden(welche.size() + 1, QVariant(qlonglong(z.rowid)));
+            s.weiter();
+            neuLesen(z);
+        }
+        zuletztGeändert = z.marke;
+    }
+
+    bool finden(long ab, const QString& kriterien) {
+        const Kriterium k(kriterien);
+        const auto feld = [this](long zeile) {
+            return [this, zeile](const QString& name) {
+                int i = index(name);
+                bool istZahl = false;
+                const int n = name.toInt(&istZahl);
+                if (i < 0 && istZahl)
+                    i = n;
+                if (i < 0 || i >= spalten.size())
+                    throw fehler::mit(fehler::ElementNichtGefunden, name);
+                return zeilen[size_t(zeile)].werte[i];
+            };
+        };
+        for (long i = std::max(0L, ab); holen(i); ++i) {
+            if (k.erfüllt(feld(i))) {
+                pos = i;
+                nachLöschen = false;
+                besuchen();
+                noMatch = false;
+                return true;
+            }
+        }
+        noMatch = true;
+        return false;
+    }
+};
+
+} // namespace detail
+
+using detail::RecordsetDaten;
+
+Recordset::Recordset() = default;
+Recordset::~Recordset() = default;
+Recordset::Recordset(const Recordset&) = default;
+Recordset& Recordset::operator=(const Recordset&) = default;
+Recordset::Recordset(std::shared_ptr<RecordsetDaten> d) : m_d(std::move(d)) {}
+
+RecordsetDaten& Recordset::d() const {
+    if (!m_d)
+        throw Fehler(91, "Objektvariable oder With-Blockvariable nicht festgelegt");
+    m_d->prüfeOffen();
+    return *m_d;
+}
+
+bool Recordset::istOffen() const { return m_d && m_d->offen; }
+QString Recordset::Name() const { return d().name; }
+
+bool Recordset::Eof() const { return d().eof(); }
+bool Recordset::Bof() const { return d().pos < 0 || d().leer(); }
+
+void Recordset::MoveFirst() {
+    auto& x = d();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    if (x.leer())
+        throw fehler::mit(fehler::KeinAktuellerDatensatz);
+    x.pos = 0;
+    x.nachLöschen = false;
+    x.besuchen();
+}
+
+void Recordset::MoveLast() {
+    auto& x = d();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    x.allesLaden();
+    if (x.zeilen.empty())
+        throw fehler::mit(fehler::KeinAktuellerDatensatz);
+    x.pos = x.anzahlGeladen() - 1;
+    x.nachLöschen = false;
+    x.besuchen();
+}
+
+void Recordset::MoveNext() {
+    auto& x = d();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    if (x.nachLöschen) {
+        x.nachLöschen = false; // the row behind the deleted one moved into its place
+    } else {
+        if (x.eof())
+            throw fehler::mit(fehler::KeinAktuellerDatensatz);
+        ++x.pos;
+    }
+    x.besuchen();
+}
+
+void Recordset::MovePrevious() {
+    auto& x = d();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    if (x.pos < 0)
+        throw fehler::mit(fehler::KeinAktuellerDatensatz);
+    x.nachLöschen = false;
+    if (x.eof()) {
+        x.allesLaden();
+        x.pos = x.anzahlGeladen();
+    }
+    --x.pos;
+    x.besuchen();
+}
+
+void Recordset::Move(long anzahl) {
+    auto& x = d();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    if (anzahl == 0)
+        return;
+    if ((anzahl > 0 && x.eof()) || (anzahl < 0 && x.pos < 0))
+        throw fehler::mit(fehler::KeinAktuellerDatensatz);
+    long ziel = x.pos + anzahl - (x.nachLöschen && anzahl > 0 ? 1 : 0);
+    x.nachLöschen = false;
+    if (ziel < 0) {
+        x.pos = -1;
+        return;
+    }
+    if (!x.holen(ziel))
+        ziel = x.anzahlGeladen();
+    x.pos = ziel;
+    x.besuchen();
+}
+
+long Recordset::RecordCount() const { return d().besucht; }
+
+long Recordset::AbsolutePosition() const {
+    auto& x = d();
+    return (x.pos >= 0 && !x.nachLöschen && x.holen(x.pos)) ? x.pos : -1;
+}
+
+void Recordset::setAbsolutePosition(long position) {
+    auto& x = d();
+    if (position < 0 || !x.holen(position))
+        throw fehler::mit(fehler::UngültigerAufruf, "AbsolutePosition " + QString::number(position));
+    x.modus = RecordsetDaten::Modus::Keiner;
+    x.pos = position;
+    x.nachLöschen = false;
+    x.besuchen();
+}
+
+Bookmark Recordset::bookmark() const { return d().aktuelle().marke; }
+
+void Recordset::setBookmark(Bookmark marke) {
+    auto& x = d();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    for (long i = 0; x.holen(i); ++i) {
+        if (x.zeilen[size_t(i)].marke == marke) {
+            x.pos = i;
+            x.nachLöschen = false;
+            x.besuchen();
+            return;
+        }
+    }
+    throw Fehler(3159, "Kein gültiges Lesezeichen.");
+}
+
+Bookmark Recordset::LastModified() const {
+    auto& x = d();
+    if (x.zuletztGeändert == 0)
+        throw Fehler(3159, "Kein gültiges Lesezeichen.");
+    return x.zuletztGeändert;
+}
+
+QVariant Recordset::Field(const QString& name) const { return d().lesen(d().indexOderFehler(name)); }
+QVariant Recordset::Field(int index) const { return d().lesen(index); }
+QString Recordset::Text(const QString& name) const { return text(Field(name)); }
+void Recordset::setField(const QString& name, const QVariant& wert) { d().schreiben(d().indexOderFehler(name), wert); }
+void Recordset::setField(int index, const QVariant& wert) { d().schreiben(index, wert); }
+int Recordset::FieldCount() const { return int(d().spalten.size()); }
+
+QString Recordset::FieldName(int index) const {
+    auto& x = d();
+    if (index < 0 || index >= x.spalten.size())
+        throw fehler::mit(fehler::ElementNichtGefunden, QString::number(index));
+    return x.spalten[index].name;
+}
+
+int Recordset::FieldIndex(const QString& name) const { return d().index(name); }
+
+int Recordset::FieldSize(const QString& name) const {
+    static const QRegularExpression größe(R"(\((\d+)\))");
+    const auto m = größe.match(d().spalten[d().indexOderFehler(name)].typ);
+    return m.hasMatch() ? m.captured(1).toInt() : 255;
+}
+
+void Recordset::AddNew() {
+    auto& x = d();
+    x.beschreibbarPrüfen();
+    x.puffer.clear();
+    for (const auto& s : std::as_const(x.spalten))
+        x.puffer << (s.tabellenIndex >= 0 ? x.tabelle->vorgaben[s.tabellenIndex] : nullWert());
+    x.gesetzt = QVector<bool>(x.spalten.size(), false);
+    x.modus = RecordsetDaten::Modus::Neu;
+}
+
+void Recordset::Edit() {
+    auto& x = d();
+    x.beschreibbarPrüfen();
+    x.puffer = x.aktuelle().werte;
+    x.gesetzt = QVector<bool>(x.spalten.size(), false);
+    x.modus = RecordsetDaten::Modus::Ändern;
+}
+
+void Recordset::Update() {
+    auto& x = d();
+    const auto modus = x.modus;
+    if (modus == RecordsetDaten::Modus::Keiner)
+        throw fehler::mit(fehler::OhneAddNewEdit);
+    x.modus = RecordsetDaten::Modus::Keiner; // a failed write leaves no pending row behind
+    if (modus == RecordsetDaten::Modus::Neu)
+        x.einfügen();
+    else
+        x.ändern();
+}
+
+void Recordset::CancelUpdate() { d().modus = RecordsetDaten::Modus::Keiner; }
+
+void Recordset::Delete() {
+    auto& x = d();
+    x.beschreibbarPrüfen();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    const detail::Zeile& z = x.aktuelle();
+    {
+        detail::Schritt s(x.v->anweisung("DELETE FROM " + x.tabellenName() + " WHERE rowid = ?1"));
+        s.binden(1, QVariant(qlonglong(z.rowid)));
+        s.weiter();
+    }
+    x.zeilen.erase(x.zeilen.begin() + x.pos);
+    x.besucht = std::max(0L, x.besucht - 1);
+    x.nachLöschen = true;
+}
+
+void Recordset::FindFirst(const QString& kriterien) { d().finden(0, kriterien); }
+
+void Recordset::FindNext(const QString& kriterien) {
+    auto& x = d();
+    x.finden(x.nachLöschen ? x.pos : x.pos + 1, kriterien);
+}
+
+bool Recordset::NoMatch() const { return d().noMatch; }
+
+void Recordset::Requery() {
+    auto& x = d();
+    x.modus = RecordsetDaten::Modus::Keiner;
+    x.laden();
+}
+
+void Recordset::Close() {
+    if (m_d)
+        m_d->offen = false;
+}
+
+} // namespace vemo
+
+namespace vemo::detail {
+
+std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
+                                               const Verbindung::Tabelle* t) {
+    auto d = std::make_shared<RecordsetDaten>();
+    d->v = v;
+    d->name = name;
+    d->seitenweise = true;
+    d->tabelle = t;
+    for (int i = 0; i < t->spalten.size(); ++i)
+        d->spalten.push_back({t->spalten[i], t->typen[i], i});
+    d->laden();
+    return d;
+}
+
+std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
+                                               const Übersetzung& ü, const QVector<QVariant>& parameter) {
+    auto d = std::make_shared<RecordsetDaten>();
+    d->v = v;
+    d->name = name;
+    d->parameter = parameter;
+    sqlite3_stmt* s = nullptr;
+    if (ü.einfacheAuswahl) {
+        try {
+            s = v->anweisung(ü.sqlMitRowid);
+            d->abfrage = ü.sqlMitRowid;
+            d->mitRowid = true;
+        } catch (const Fehler&) {
+            s = nullptr; // e.g. a view: read it as it is
+        }
+    }
+    if (!s) {
+        s = v->anweisung(ü.sql);
+        d->abfrage = ü.sql;
+    }
+    const int versatz = d->mitRowid ? 1 : 0;
+    const int anzahl = sqlite3_column_count(s);
+    QString tabellenName;
+    for (int i = versatz; i < anzahl; ++i) {
+        Spalte sp;
+        sp.name = QString::fromUtf8(sqlite3_column_name(s, i));
+        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s, i));
+        if (const char* t = sqlite3_column_table_name(s, i); t && tabellenName.isEmpty())
+            tabellenName = QString::fromUtf8(t);
+        d->spalten.push_back(sp);
+    }
+    if (d->mitRowid && !tabellenName.isEmpty()) {
+        d->tabelle = v->tabelle(tabellenName);
+        for (int i = versatz; i < anzahl && d->tabelle; ++i) {
+            const char* t = sqlite3_column_table_name(s, i);
+            const char* ursprung = sqlite3_column_origin_name(s, i);
+            if (t && ursprung && tabellenName.compare(QString::fromUtf8(t), Qt::CaseInsensitive) == 0)
+                d->spalten[i - versatz].tabellenIndex = d->tabelle->index(QString::fromUtf8(ursprung));
+        }
+    }
+    d->laden();
+    return d;
+}
+
+} // namespace vemo::detail

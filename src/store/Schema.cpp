@@ -1,0 +1,37 @@
+#include "store/Schema.h"
+
+#include "store/Datenbank.h"
+#include "store/Fehler.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace vemo {
+
+namespace {
+QString ressource(const QString& name) {
+    QFile f(":/data/" + name);
+    if (!f.open(QIODevice::ReadOnly))
+        throw fehler::mit(fehler::DateiNichtGefunden, name);
+    return QString::fromUtf8(f.readAll());
+}
+} // namespace
+
+void skripteAusführen(const Datenbank& db, const QString& muster) {
+    const QStringList namen = QDir(":/data").entryList({muster}, QDir::Files, QDir::Name);
+    for (const QString& n : namen)
+        db.skriptAusführen(ressource(n));
+}
+
+void datenbankAnlegen(const QString& pfad, bool demo) {
+    for (const QString& rest : {QString(), QString("-wal"), QString("-shm")})
+        QFile::remove(pfad + rest);
+    const Datenbank db = Datenbank::anlegen(pfad);
+    db.skriptAusführen(ressource("schema.sql"));
+    db.skriptAusführen(ressource("abfragen.sql"));
+    skripteAusführen(db, "host-*.sql");
+    if (demo)
+        skripteAusführen(db, "demo-*.sql");
+}
+
+} // namespace vemo

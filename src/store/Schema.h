@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace vemo {
+
+// Writes a new host database: the schema, the saved queries and the default host data
+// (data/host-*.sql); with demo, customers, plants and instruments to play with (data/demo-*.sql).
+// An existing file is replaced.
+void datenbankAnlegen(const QString& pfad, bool demo);
+
+// Runs the scripts of the resources whose names match the pattern, in the order of their names.
+class Datenbank;
+void skripteAusführen(const Datenbank& db, const QString& muster);
+
+} // namespace vemo

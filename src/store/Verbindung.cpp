@@ -1,0 +1,309 @@
+#include "store/Verbindung.h"
+
+#include "platform/Zahlformat.h"
+#include "store/Fehler.h"
+#include "store/Variant.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QFileInfo>
+
+namespace vemo::detail {
+namespace {
+
+// Val() of the dialect: the numeric prefix of a text.
+void valFunktion(sqlite3_context* ctx, int, sqlite3_value** argv) {
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) {
+        sqlite3_result_null(ctx);
+        return;
+    }
+    const auto* t = reinterpret_cast<const char*>(sqlite3_value_text(argv[0]));
+    sqlite3_result_double(ctx, zahlformat::val(QString::fromUtf8(t)));
+}
+
+QString utf8(const char* s) { return s ? QString::fromUtf8(s) : QString(); }
+
+QString textArgument(sqlite3_value* v) {
+    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_value_text(v)), sqlite3_value_bytes(v));
+}
+
+void textErgebnis(sqlite3_context* ctx, const QString& t) {
+    const QByteArray b = t.toUtf8();
+    sqlite3_result_text(ctx, b.constData(), int(b.size()), SQLITE_TRANSIENT);
+}
+
+// The text functions of the dialect that SQLite lacks: Left, Right, Mid, Len, UCase, LCase.
+void textFunktion(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) {
+        sqlite3_result_null(ctx);
+        return;
+    }
+    const QString s = textArgument(argv[0]);
+    const auto zahl = [&](int i) { return argc > i ? sqlite3_value_int(argv[i]) : -1; };
+    const QByteArray name(static_cast<const char*>(sqlite3_user_data(ctx)));
+    if (name == "Left")
+        textErgebnis(ctx, s.left(zahl(1)));
+    else if (name == "Right")
+        textErgebnis(ctx, s.right(zahl(1)));
+    else if (name == "Mid")
+        textErgebnis(ctx, s.mid(std::max(0, zahl(1) - 1), zahl(2)));
+    else if (name == "Len")
+        sqlite3_result_int(ctx, int(s.size()));
+    else if (name == "UCase")
+        textErgebnis(ctx, s.toUpper());
+    else
+        textErgebnis(ctx, s.toLower());
+}
+
+void funktionenAnmelden(sqlite3* db) {
+    sqlite3_create_function(db, "Val", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, valFunktion, nullptr,
+                            nullptr);
+    static const struct {
+        const char* name;
+        int argumente;
+    } tabelle[] = {{"Left", 2}, {"Right", 2}, {"Mid", 2}, {"Mid", 3}, {"Len", 1}, {"UCase", 1}, {"LCase", 1}};
+    for (const auto& f : tabelle)
+        sqlite3_create_function(db, f.name, f.argumente, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                const_cast<char*>(f.name), textFunktion, nullptr, nullptr);
+}
+
+} // namespace
+
+bool istDatumTyp(const QString& typ) {
+    return typ.startsWith("DATE", Qt::CaseInsensitive) || typ.startsWith("TIME", Qt::CaseInsensitive);
+}
+
+bool istZahlTyp(const QString& typ) {
+    const QString t = typ.toUpper();
+    return t.contains("INT") || t.startsWith("REAL") || t.startsWith("DOUBLE") || t.startsWith("FLOAT") ||
+           t.startsWith("NUMERIC") || t.startsWith("DECIMAL");
+}
+
+void sqliteFehler(sqlite3* db, int rc, const QString& sql) {
+    const QString text = utf8(sqlite3_errmsg(db));
+    const int basis = rc & 0xff;
+    if (text.startsWith("no such table"))
+        throw fehler::mit(fehler::TabelleNichtGefunden, text.mid(15));
+    if (text.startsWith("no such column"))
+        throw fehler::mit(fehler::ZuWenigeParameter, text.mid(16));
+    if (basis == SQLITE_BUSY || basis == SQLITE_LOCKED)
+        throw fehler::mit(fehler::Gesperrt, text);
+    if (basis == SQLITE_CONSTRAINT)
+        throw fehler::mit(fehler::DoppelterSchlüssel, text);
+    if (basis == SQLITE_CANTOPEN || basis == SQLITE_NOTADB)
+        throw fehler::mit(fehler::DatenbankNichtGefunden, text);
+    if (basis == SQLITE_ERROR || basis == SQLITE_RANGE)
+        throw fehler::mit(fehler::SyntaxFehler, text + ": " + sql);
+    throw Fehler(3000 + basis, text);
+}
+
+int Verbindung::Tabelle::index(const QString& spalte) const {
+    for (int i = 0; i < spalten.size(); ++i)
+        if (spalten[i].compare(spalte, Qt::CaseInsensitive) == 0)
+            return i;
+    return -1;
+}
+
+Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
+    if (!anlegen && !QFileInfo::exists(pfad))
+        throw fehler::mit(fehler::DatenbankNichtGefunden, pfad);
+    const int flags = SQLITE_OPEN_READWRITE | (anlegen ? SQLITE_OPEN_CREATE : 0);
+    const int rc = sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, flags, nullptr);
+    if (rc != SQLITE_OK) {
+        const QString text = m_db ? utf8(sqlite3_errmsg(m_db)) : QString();
+        sqlite3_close(m_db);
+        m_db = nullptr;
+        throw fehler::mit(fehler::DatenbankNichtGefunden, pfad + ": " + text);
+    }
+    // Opened shared with the host: a lock held there makes us wait, not fail.
+    sqlite3_busy_timeout(m_db, 15000);
+    funktionenAnmelden(m_db);
+    char* fehlerText = nullptr;
+    const int rc2 = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;", nullptr, nullptr,
+                                 &fehlerText);
+    sqlite3_free(fehlerText);
+    if (rc2 != SQLITE_OK) {
+        const int fehlerNr = rc2;
+        sqlite3* db = m_db;
+        try {
+            sqliteFehler(db, fehlerNr, "PRAGMA journal_mode");
+        } catch (...) {
+            sqlite3_close(m_db);
+            m_db = nullptr;
+            throw;
+        }
+    }
+}
+
+Verbindung::~Verbindung() {
+    for (sqlite3_stmt* s : std::as_const(m_anweisungen))
+        sqlite3_finalize(s);
+    sqlite3_close(m_db);
+}
+
+sqlite3_stmt* Verbindung::anweisung(const QString& sql) {
+    if (auto it = m_anweisungen.constFind(sql); it != m_anweisungen.cend())
+        return *it;
+    sqlite3_stmt* s = nullptr;
+    const QByteArray text = sql.toUtf8();
+    const int rc = sqlite3_prepare_v2(m_db, text.constData(), int(text.size()), &s, nullptr);
+    if (rc != SQLITE_OK) {
+        sqlite3_finalize(s);
+        sqliteFehler(m_db, rc, sql);
+    }
+    if (!s) // only blanks or a comment
+        throw fehler::mit(fehler::SyntaxFehler, sql);
+    m_anweisungen.insert(sql, s);
+    return s;
+}
+
+const Verbindung::Tabelle* Verbindung::tabelle(const QString& name) {
+    const QString schlüssel = name.toLower();
+    if (auto it = m_tabellen.constFind(schlüssel); it != m_tabellen.cend())
+        return &*it;
+    Tabelle t;
+    {
+        Schritt s(anweisung("SELECT name FROM sqlite_master WHERE type IN ('table','view') AND name = ?1 "
+                            "COLLATE NOCASE"));
+        s.binden(1, name);
+        if (!s.weiter()) {
+            // SQLite folds only ASCII letters; names with umlauts are compared here.
+            Schritt alle(anweisung("SELECT name FROM sqlite_master WHERE type IN ('table','view')"));
+            while (alle.weiter())
+                if (alle.wert(0).toString().compare(name, Qt::CaseInsensitive) == 0)
+                    t.name = alle.wert(0).toString();
+            if (t.name.isEmpty())
+                return nullptr;
+        } else {
+            t.name = s.wert(0).toString();
+        }
+    }
+    QStringList ausdrücke;
+    {
+        QString n = t.name;
+        Schritt s(anweisung("PRAGMA table_info(\"" + n.replace('"', "\"\"") + "\")"));
+        while (s.weiter()) {
+            t.spalten << s.wert(1).toString();
+            t.typen << s.wert(2).toString();
+            ausdrücke << s.wert(4).toString();
+        }
+    }
+    for (int i = 0; i < ausdrücke.size(); ++i) {
+        QVariant v = nullWert();
+        if (!ausdrücke[i].isEmpty()) {
+            Schritt s(anweisung("SELECT " + ausdrücke[i]));
+            if (s.weiter())
+                v = s.wert(0, t.typen[i]);
+        }
+        t.vorgaben << v;
+    }
+    return &*m_tabellen.insert(schlüssel, t);
+}
+
+void Verbindung::schemaGeändert() {
+    m_tabellen.clear();
+    for (sqlite3_stmt* s : std::as_const(m_anweisungen))
+        sqlite3_finalize(s);
+    m_anweisungen.clear();
+}
+
+Schritt::~Schritt() {
+    sqlite3_reset(m_s);
+    sqlite3_clear_bindings(m_s);
+}
+
+void Schritt::binden(int index, const QVariant& wert, const QString& typ) {
+    if (istLeer(wert)) {
+        sqlite3_bind_null(m_s, index);
+        return;
+    }
+    switch (wert.typeId()) {
+    case QMetaType::Bool:
+        sqlite3_bind_int(m_s, index, wert.toBool() ? -1 : 0);
+        return;
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        sqlite3_bind_int64(m_s, index, wert.toLongLong());
+        return;
+    case QMetaType::Double:
+    case QMetaType::Float:
+        if (!typ.isEmpty() && !istZahlTyp(typ) && !istDatumTyp(typ)) {
+            // A number written into a text column reads as the system writes numbers.
+            sqlite3_bind_text(m_s, index, zahlformat::text(wert.toDouble()).toUtf8().constData(), -1,
+                              SQLITE_TRANSIENT);
+            return;
+        }
+        sqlite3_bind_double(m_s, index, wert.toDouble());
+        return;
+    case QMetaType::QDate:
+        sqlite3_bind_text(m_s, index, wert.toDate().toString(Qt::ISODate).toUtf8().constData(), -1,
+                          SQLITE_TRANSIENT);
+        return;
+    case QMetaType::QDateTime:
+        sqlite3_bind_text(m_s, index, wert.toDateTime().toString("yyyy-MM-dd HH:mm:ss").toUtf8().constData(),
+                          -1, SQLITE_TRANSIENT);
+        return;
+    default:
+        break;
+    }
+    const QString t = wert.toString();
+    if (istDatumTyp(typ)) {
+        const auto d = zahlformat::datum(t);
+        if (!d)
+            throw fehler::mit(fehler::TypenUnverträglich, t);
+        const QTime zeit = QTime::fromString(t.trimmed().section(' ', 1, 1), "H:mm:ss");
+        const QString iso = zeit.isValid() ? QDateTime(*d, zeit).toString("yyyy-MM-dd HH:mm:ss")
+                                           : d->toString(Qt::ISODate);
+        sqlite3_bind_text(m_s, index, iso.toUtf8().constData(), -1, SQLITE_TRANSIENT);
+        return;
+    }
+    if (istZahlTyp(typ)) {
+        const auto z = zahlformat::zahl(t);
+        if (!z)
+            throw fehler::mit(fehler::TypenUnverträglich, t);
+        sqlite3_bind_double(m_s, index, *z);
+        return;
+    }
+    sqlite3_bind_text(m_s, index, t.toUtf8().constData(), -1, SQLITE_TRANSIENT);
+}
+
+bool Schritt::weiter() {
+    const int rc = sqlite3_step(m_s);
+    if (rc == SQLITE_ROW)
+        return true;
+    if (rc == SQLITE_DONE)
+        return false;
+    sqliteFehler(sqlite3_db_handle(m_s), rc, utf8(sqlite3_sql(m_s)));
+}
+
+QVariant Schritt::wert(int spalte, const QString& typ) const {
+    switch (sqlite3_column_type(m_s, spalte)) {
+    case SQLITE_NULL:
+        return nullWert();
+    case SQLITE_INTEGER:
+        return QVariant(qlonglong(sqlite3_column_int64(m_s, spalte)));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(m_s, spalte);
+    default: {
+        const QString t = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(m_s, spalte)),
+                                            sqlite3_column_bytes(m_s, spalte));
+        if (istDatumTyp(typ)) {
+            if (t.size() > 10) {
+                const QDateTime dt = QDateTime::fromString(t, "yyyy-MM-dd HH:mm:ss");
+                if (dt.isValid())
+                    return dt;
+            }
+            const QDate d = QDate::fromString(t, Qt::ISODate);
+            if (d.isValid())
+                return d;
+        }
+        return t;
+    }
+    }
+}
+
+} // namespace vemo::detail

@@ -1,0 +1,224 @@
+#include "store/Recordset.h"
+#include "store/Variant.h"
+#include "support/Testumgebung.h"
+
+using namespace vemo;
+
+namespace {
+
+class RecordsetTest : public test::Testumgebung {
+protected:
+    // Rows 1..n of 0100_EinleseDaten, with StromkreisNr "S<i>"; row 3 has a Null Datum.
+    void zeilen(int n) {
+        QString s;
+        for (int i = 1; i <= n; ++i)
+            s += QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, StromkreisNr, Datum) VALUES (%1, 'S%1', %2);")
+                     .arg(i)
+                     .arg(i == 3 ? "NULL" : "'x'");
+        sql(s);
+    }
+    static int fehlerNummer(const std::function<void()>& f) {
+        try {
+            f();
+        } catch (const Fehler& e) {
+            return e.nummer();
+        }
+        return 0;
+    }
+};
+
+TEST_F(RecordsetTest, CursorStandsOnFirstRowAndCountsVisitedRows) {
+    zeilen(150); // more than a page
+    Recordset rs = db().OpenRecordset("0100_EinleseDaten");
+    EXPECT_FALSE(rs.Bof());
+    EXPECT_FALSE(rs.Eof());
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 1);
+    EXPECT_EQ(rs.RecordCount(), 1);
+    rs.MoveNext();
+    rs.MoveNext();
+    EXPECT_EQ(rs.RecordCount(), 3);
+    EXPECT_EQ(rs.AbsolutePosition(), 2);
+    EXPECT_EQ(rs.Text("Datum"), ""); // a Null read as text is empty
+    EXPECT_TRUE(istNull(rs.Field("Datum")));
+    rs.MoveLast();
+    EXPECT_EQ(rs.RecordCount(), 150);
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 150);
+    rs.MoveNext();
+    EXPECT_TRUE(rs.Eof());
+    EXPECT_EQ(fehlerNummer([&] { rs.MoveNext(); }), 3021);
+    EXPECT_EQ(fehlerNummer([&] { rs.Field("MessungID"); }), 3021);
+    rs.setAbsolutePosition(99);
+    EXPECT_EQ(rs.Text("StromkreisNr"), "S100");
+    rs.Move(-99);
+    EXPECT_EQ(rs.AbsolutePosition(), 0);
+    rs.MovePrevious();
+    EXPECT_TRUE(rs.Bof());
+}
+
+TEST_F(RecordsetTest, EmptySetIsBothBofAndEof) {
+    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
+    EXPECT_TRUE(rs.Bof());
+    EXPECT_TRUE(rs.Eof());
+    EXPECT_EQ(rs.RecordCount(), 0);
+    EXPECT_EQ(fehlerNummer([&] { rs.MoveFirst(); }), 3021);
+    EXPECT_EQ(fehlerNummer([&] { rs.Edit(); }), 3021);
+}
+
+TEST_F(RecordsetTest, AddNewThenLastModifiedMakesTheNewRowCurrent) {
+    zeilen(100);
+    Recordset rs = db().OpenRecordset("0100_EinleseDaten"); // not read to its end
+    rs.AddNew();
+    EXPECT_EQ(rs.Text("KundeNr"), ""); // the store's default
+    rs.setField("MessungID", 5000);
+    rs.setField("StromkreisNr", "0007");
+    rs.Update();
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 1); // the current row has not moved
+    rs.setBookmark(rs.LastModified());
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 5000);
+    EXPECT_EQ(rs.Field("KundeID").toInt(), 0);
+    rs.MoveLast();
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 5000);
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 101);
+
+    const Bookmark b = rs.bookmark();
+    rs.MoveFirst();
+    rs.Edit();
+    rs.setField("StromkreisNr", "0001");
+    rs.Update();
+    rs.setBookmark(b);
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 5000);
+    rs.setBookmark(rs.LastModified());
+    EXPECT_EQ(rs.Text("StromkreisNr"), "0001");
+    EXPECT_EQ(wert("SELECT StromkreisNr FROM 0100_EinleseDaten WHERE MessungID = 1"), "0001");
+}
+
+TEST_F(RecordsetTest, FieldsAreWrittenOnlyBetweenAddNewOrEditAndUpdate) {
+    zeilen(2);
+    Recordset rs = db().OpenRecordset("0100_EinleseDaten");
+    EXPECT_EQ(fehlerNummer([&] { rs.setField("KundeNr", "1"); }), 3020);
+    EXPECT_EQ(fehlerNummer([&] { rs.Update(); }), 3020);
+    rs.AddNew();
+    rs.setField("MessungID", 9);
+    rs.CancelUpdate();
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 2); // a row begun and not updated is lost
+    EXPECT_EQ(fehlerNummer([&] { rs.Field("gibtsnicht"); }), 3265);
+    // A failing write leaves the set usable.
+    rs.AddNew();
+    rs.setField("MessungID", 1);
+    EXPECT_EQ(fehlerNummer([&] { rs.Update(); }), 3022);
+    EXPECT_EQ(fehlerNummer([&] { rs.setField("KundeNr", "x"); }), 3020);
+}
+
+TEST_F(RecordsetTest, DeleteLeavesNoCurrentRowUntilTheNextMove) {
+    zeilen(4);
+    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
+    rs.MoveNext();
+    rs.Delete();
+    EXPECT_EQ(fehlerNummer([&] { rs.Field("MessungID"); }), 3167);
+    rs.MoveNext();
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 3);
+    rs.MoveLast();
+    rs.Delete();
+    rs.MoveNext();
+    EXPECT_TRUE(rs.Eof());
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 2);
+}
+
+TEST_F(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
+    zeilen(5);
+    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001'), (2, 1, '003');");
+    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
+    rs.FindFirst("MessungID = 4");
+    EXPECT_FALSE(rs.NoMatch());
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 4);
+    rs.FindFirst("MessungID = 40");
+    EXPECT_TRUE(rs.NoMatch());
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 4); // a miss leaves the cursor where it stood
+    rs.FindFirst("StromkreisNr = 's2'");         // text compares without regard to case
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 2);
+    rs.FindNext("MessungID > 1 And Datum = 'x'");
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 4);
+
+    Recordset anlagen = db().OpenRecordset("SELECT * FROM 0100_Anlage");
+    anlagen.FindFirst("Code ='003'");
+    EXPECT_EQ(anlagen.Field("AnlageID").toInt(), 2);
+
+    sql("CREATE TABLE Woerter (\"0\" TEXT, \"1\" TEXT); INSERT INTO Woerter VALUES ('a', 'Name'), ('b', 'Version');");
+    Recordset w = db().OpenRecordset("Woerter");
+    w.FindFirst("[1] = 'Version'");
+    EXPECT_EQ(w.Text("0"), "b");
+    EXPECT_EQ(fehlerNummer([&] { w.FindFirst("[1] = "); }), 3075);
+}
+
+TEST_F(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
+    sql("INSERT INTO \"0100_Messung\" (MessID, StromkreisID, FIT) VALUES (1, 7, '20');");
+    Recordset rs = db().OpenRecordset("SELECT MessID,FIT as derWert, StromkreisID as id  FROM 0100_Messung "
+                                      "WHERE StromkreisID = 7");
+    rs.Edit();
+    rs.setField("derWert", "35");
+    rs.Update();
+    EXPECT_EQ(wert("SELECT FIT FROM 0100_Messung WHERE MessID = 1"), "35");
+    rs.AddNew();
+    rs.setField("MessID", 2);
+    rs.setField("ID", 8);
+    rs.setField("derWert", "12");
+    rs.Update();
+    EXPECT_EQ(wert("SELECT FIT FROM 0100_Messung WHERE StromkreisID = 8"), "12");
+    rs.setBookmark(rs.LastModified());
+    EXPECT_EQ(rs.Text("derWert"), "12");
+
+    Recordset verbund = db().OpenRecordset(
+        "SELECT [0100_Messung].MessID, [0100_Grenzwert].RISO FROM 0100_Messung LEFT JOIN 0100_Grenzwert ON "
+        "[0100_Messung].MessID = [0100_Grenzwert].MessID");
+    EXPECT_EQ(fehlerNummer([&] { verbund.Edit(); }), 3027);
+}
+
+TEST_F(RecordsetTest, NamesAreCaseInsensitiveAndMissingTablesAreReported) {
+    sql("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (1, 1, '001');");
+    EXPECT_EQ(db().OpenRecordset("0100_STROMKREIS").Text("code"), "001");
+    EXPECT_EQ(db().OpenRecordset("SELECT * FROM 0100_stromkreis WHERE CODE = '001'").Field("stromkreisid").toInt(), 1);
+    EXPECT_EQ(db().OpenRecordset("0100_prüfung").FieldIndex("PRÜFUNGID"), 0);
+    EXPECT_NO_THROW(db().TableDefs("kunde"));
+    EXPECT_EQ(fehlerNummer([&] { db().TableDefs("Kunden"); }), 3078);
+    EXPECT_EQ(fehlerNummer([&] { db().OpenRecordset("SELECT * FROM Nirgends"); }), 3078);
+    EXPECT_EQ(fehlerNummer([&] { db().OpenRecordset("Nirgends"); }), 3078);
+}
+
+TEST_F(RecordsetTest, SavedQueriesRunWithTheirParameter) {
+    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code, Nr, Name) VALUES "
+        "(1, 5, '002', '', 'B'), (2, 5, '001', 'N', 'A'), (3, 6, '001', '', 'C');");
+    QueryDef q = db().QueryDefs("AnlagenVonKunde");
+    q.Parameters("paraKundeID") = 5;
+    Recordset rs = q.OpenRecordset();
+    EXPECT_EQ(rs.Text("Code"), "001");
+    EXPECT_EQ(rs.Text("Nr"), "N");
+    rs.MoveLast();
+    EXPECT_EQ(rs.RecordCount(), 2);
+    EXPECT_EQ(rs.Field("AnlageID").toInt(), 1);
+    EXPECT_EQ(fehlerNummer([&] { q.Parameters("paraX"); }), 3265);
+    EXPECT_EQ(fehlerNummer([&] { db().QueryDefs("Gibtsnicht"); }), 3265);
+}
+
+TEST_F(RecordsetTest, DatesAndNumbersKeepTheirTypes) {
+    Recordset rs = db().OpenRecordset("0100_Prüfung");
+    rs.AddNew();
+    rs.setField("PrüfungID", 1);
+    rs.setField("Datum", QDate(2024, 3, 1));
+    rs.Update();
+    rs.setBookmark(rs.LastModified());
+    EXPECT_EQ(rs.Field("Datum").toDate(), QDate(2024, 3, 1));
+    rs.Edit();
+    rs.setField("Datum", "05.04.2024"); // a date given as text is read as a date
+    rs.setField("Grund1", "0");
+    rs.Update();
+    EXPECT_EQ(rs.Field("Datum").toDate(), QDate(2024, 4, 5));
+    EXPECT_EQ(rs.Field("Grund1").toInt(), 0);
+    rs.Edit();
+    EXPECT_EQ(fehlerNummer([&] {
+                  rs.setField("Datum", "kein Datum");
+                  rs.Update();
+              }),
+              13);
+}
+
+} // namespace

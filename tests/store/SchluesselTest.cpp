@@ -1,0 +1,104 @@
+#include "store/Recordset.h"
+#include "store/Schluessel.h"
+#include "store/Variant.h"
+#include "support/Testumgebung.h"
+
+using namespace vemo;
+
+namespace {
+
+using SchluesselTest = test::Testumgebung;
+
+TEST_F(SchluesselTest, KeysCountPerTableAndReplica) {
+    EXPECT_EQ(NeueID("", "0100_Messung"), 10000);
+    EXPECT_EQ(NeueID("", "SELECT * FROM 0100_Messung WHERE StromkreisID = 5"), 10001);
+    EXPECT_EQ(NeueID("Kunde", ""), 10000);
+    EXPECT_EQ(NeueID("", "SELECT * FROM Kunde"), 10001); // the name reaches to the end of the text
+    EXPECT_EQ(NeueID("", "0100_Messung"), 10002);        // alternating tables stay correct
+    EXPECT_EQ(wert("SELECT LastID FROM IDIncrement WHERE TabelleName = '0100_Messung'"), "10002");
+    EXPECT_EQ(NeueID("", ""), 0); // the reset
+
+    sql("INSERT INTO MSysReplicas VALUES ('R7', '7'), ('R22', '22');");
+    modul().vmxReplicaID = "'R7'";
+    EXPECT_EQ(NeueID("0100_Messung", ""), 700010000);
+    EXPECT_EQ(NeueID("0100_Messung", ""), 700010001);
+    modul().vmxReplicaID = nullWert(); // Null compares as equal: the range stays
+    EXPECT_EQ(NeueID("0100_Messung", ""), 700010002);
+
+    modul().vmxReplicaID = "'R22'"; // beyond the 32-bit key
+    EXPECT_EQ(NeueID("0100_Messung", ""), 0);
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("6 "));
+    EXPECT_EQ(m_ui.meldungen[0].titel, "vemotrix professional");
+}
+
+TEST_F(SchluesselTest, CodesFillTheFirstGap) {
+    EXPECT_EQ(NeuerCode("Anlage", 1), "001");
+    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001'), (2, 1, '002'), (3, 1, '004'),"
+        "(4, 2, 'abc'), (5, 3, '2'), (6, 3, '10');");
+    EXPECT_EQ(NeuerCode("Anlage", 1), "003");
+    EXPECT_EQ(NeuerCode("Anlage", 2), "001");
+    EXPECT_EQ(NeuerCode("Anlage", 3), "001"); // "10" sorts before "2" and ends the climb
+    QString viele;
+    for (int i = 1; i <= 998; ++i)
+        viele += QString("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (%1, 9, '%2');")
+                     .arg(i)
+                     .arg(i, 3, 10, QChar('0'));
+    sql(viele);
+    EXPECT_EQ(NeuerCode("Stromkreis", 9), "");
+    EXPECT_THROW(NeuerCode("Kunde", 1), Fehler);
+}
+
+TEST_F(SchluesselTest, ReportNumbersHaveAtLeastEightDigits) {
+    EXPECT_EQ(NächsteProtokollNr(), "00000001");
+    sql("INSERT INTO \"0100_Prüfung\" (\"PrüfungID\", ProtokollNr) VALUES (1, 'abc');");
+    EXPECT_EQ(NächsteProtokollNr(), "00000001");
+    sql("INSERT INTO \"0100_Prüfung\" (\"PrüfungID\", ProtokollNr) VALUES (2, '00000041');");
+    EXPECT_EQ(NächsteProtokollNr(), "00000042");
+    sql("INSERT INTO \"0100_Prüfung\" (\"PrüfungID\", ProtokollNr) VALUES (3, '123456789');");
+    EXPECT_EQ(NächsteProtokollNr(), "123456790");
+}
+
+TEST_F(SchluesselTest, NewRowsGetTheirDefaultsAndEquipment) {
+    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001');");
+    Recordset anlage = db().OpenRecordset("0100_Anlage");
+    anlage.AddNew();
+    anlage.setField("AnlageID", NeueID("", anlage.Name()));
+    NeueZeileVorbelegen("Anlage", anlage, 1);
+    anlage.Update();
+    anlage.setBookmark(anlage.LastModified());
+    EXPECT_EQ(anlage.Text("Code"), "002");
+    EXPECT_EQ(anlage.Text("Name"), "xxxxx");
+    EXPECT_EQ(anlage.Field("Intervall").toInt(), 48);
+    EXPECT_EQ(anlage.Field("NächstePrüfung").toDate(), QDate::currentDate());
+
+    Recordset prüfung = db().OpenRecordset("0100_Prüfung");
+    prüfung.AddNew();
+    prüfung.setField("PrüfungID", 77);
+    NeueZeileVorbelegen("Prüfung", prüfung, anlage.Field("AnlageID"));
+    prüfung.Update();
+    prüfung.setBookmark(prüfung.LastModified());
+    EXPECT_EQ(prüfung.Text("typ"), "DACH2010");
+    EXPECT_EQ(prüfung.Text("ProtokollNr"), "00000001");
+    EXPECT_EQ(prüfung.Field("Grund1").toInt(), 1);
+    EXPECT_EQ(prüfung.Field("Prüfgerät4ID").toInt(), 0);
+
+    Recordset verteiler = db().OpenRecordset("0100_Verteiler");
+    verteiler.AddNew();
+    verteiler.setField("VerteilerID", 5);
+    verteiler.setField("PrüfungID", 77);
+    NeueZeileVorbelegen("Verteiler", verteiler, 0); // a parent of 0 leaves the row's own key
+    verteiler.Update();
+    EXPECT_EQ(wert("SELECT Code FROM 0100_Verteiler WHERE VerteilerID = 5"), "001");
+    EXPECT_EQ(wert("SELECT PrüfungID FROM 0100_Verteiler WHERE VerteilerID = 5"), "77");
+
+    BetriebsmittelAnlegen(77);
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Betriebsmittel WHERE PrüfungID = 77"),
+              wert("SELECT Count(*) FROM 0100_Betriebsmittelstandard WHERE SPRACHE = 'Deutsch'"));
+    modul().sprachen.setSprache("Klingonisch");
+    BetriebsmittelAnlegen(78);
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Betriebsmittel WHERE PrüfungID = 78"), "0");
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+}
+
+} // namespace

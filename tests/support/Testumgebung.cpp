@@ -1,0 +1,51 @@
+#include "support/Testumgebung.h"
+
+#include "store/Recordset.h"
+#include "store/Schema.h"
+#include "store/Schluessel.h"
+#include "store/Variant.h"
+
+#include <QDir>
+
+namespace vemo::test {
+
+void Testumgebung::SetUp() {
+    ASSERT_TRUE(m_dir.isValid());
+    NeueID("", "");
+    modulNeuLaden();
+    modul().ui = &m_ui;
+    modul().settings = &m_settings;
+    neueDatenbank(false);
+}
+
+void Testumgebung::TearDown() {
+    NeueID("", "");
+    modulNeuLaden();
+    modul().ui = nullptr;
+    modul().settings = nullptr;
+}
+
+void Testumgebung::neueDatenbank(bool demo) {
+    NeueID("", "");
+    modul().db.Close();
+    m_dbPfad = m_dir.filePath("vemotrix.db");
+    datenbankAnlegen(m_dbPfad, demo);
+    modul().db = Datenbank::OpenDatabase(m_dbPfad);
+    modul().datenbankName = m_dbPfad;
+    modul().Datenbankverzeichnis = QDir::toNativeSeparators(m_dir.path());
+}
+
+void Testumgebung::sql(const QString& natives) const { modul().db.skriptAusführen(natives); }
+
+QString Testumgebung::wert(const QString& abfrage) const {
+    Recordset rs = modul().db.OpenRecordset(abfrage);
+    return rs.Eof() ? QString() : text(rs.Field(0));
+}
+
+long Testumgebung::anzahl(const QString& tabelle) const {
+    return wert("SELECT Count(*) FROM [" + tabelle + "]").toLong();
+}
+
+QString quelle(const QString& relativ) { return QString(VEMO_SOURCE_DIR) + "/" + relativ; }
+
+} // namespace vemo::test

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/ModulState.h"
+#include "platform/AufzeichnungsUi.h"
+#include "platform/SettingsStore.h"
+#include "store/Datenbank.h"
+
+#include <QString>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace vemo::test {
+
+// A fresh component state for each test: a new database with schema and host data in a
+// temporary folder, the recording Ui and settings kept in memory.
+class Testumgebung : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Creates the database; with demo, the demo customers and plants too.
+    void neueDatenbank(bool demo = false);
+    void sql(const QString& natives) const;
+    // The first column of the first row of a query, as text.
+    QString wert(const QString& abfrage) const;
+    long anzahl(const QString& tabelle) const;
+    QString pfad(const QString& name) const { return m_dir.filePath(name); }
+
+    QTemporaryDir m_dir;
+    AufzeichnungsUi m_ui;
+    SpeicherSettingsStore m_settings;
+    QString m_dbPfad;
+};
+
+// A file of the source tree (samples, data).
+QString quelle(const QString& relativ);
+
+} // namespace vemo::test
+
+// Readable texts in the failure messages of the tests.
+inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+inline void PrintTo(const QStringList& l, std::ostream* os) { *os << '[' << l.join("; ").toStdString() << ']'; }
