@@ -18,17 +18,19 @@ std::optional<QString> Optionen::option(const QString& name) const {
     return argumente[i + 1];
 }
 
-bool Optionen::schalter(const QString& name) const { return argumente.contains(name); }
+bool Optionen::schalter(const QString& name) const {
+    return argumente.contains(name);
+}
 
 std::optional<Optionen> optionenLesen(const QStringList& argumente, QString& fehler) {
     Optionen o;
     const struct {
         const char* name;
         QString Optionen::*ziel;
-    } globale[] = {{"--db", &Optionen::db},          {"--language", &Optionen::sprache},
-                   {"--backup", &Optionen::backup},  {"--settings", &Optionen::settings},
-                   {"--locale", &Optionen::locale},  {"--replica", &Optionen::replica},
-                   {"--port", &Optionen::port},      {"--type", &Optionen::typ}};
+    } globale[] = {{"--db", &Optionen::db},         {"--language", &Optionen::sprache},
+                   {"--backup", &Optionen::backup}, {"--settings", &Optionen::settings},
+                   {"--locale", &Optionen::locale}, {"--replica", &Optionen::replica},
+                   {"--port", &Optionen::port},     {"--type", &Optionen::typ}};
     int i = 0;
     while (i < argumente.size() && o.befehl.isEmpty()) {
         const QString& a = argumente[i];

@@ -18,6 +18,8 @@ QString ohneGroßKlein(const QString& verzeichnis, const QString& name) {
     return dir.filePath(name);
 }
 
-QString arbeitsdatei(const QString& name) { return ohneGroßKlein(modul().Datenbankverzeichnis, name); }
+QString arbeitsdatei(const QString& name) {
+    return ohneGroßKlein(modul().Datenbankverzeichnis, name);
+}
 
 } // namespace vemo

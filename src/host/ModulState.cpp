@@ -13,7 +13,9 @@ std::unique_ptr<ModulState>& zustand() {
 }
 } // namespace
 
-ModulState& modul() { return *zustand(); }
+ModulState& modul() {
+    return *zustand();
+}
 
 void modulNeuLaden() {
     Ui* u = modul().ui;
@@ -35,9 +37,13 @@ SettingsStore& settings() {
     return *modul().settings;
 }
 
-Datenbank& db() { return modul().db; }
+Datenbank& db() {
+    return modul().db;
+}
 
-QString xText(const QString& text) { return modul().sprachen.xText(text); }
+QString xText(const QString& text) {
+    return modul().sprachen.xText(text);
+}
 
 void fehlerZeigen(const Fehler& f) {
     if (modul().ui)

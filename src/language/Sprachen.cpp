@@ -2,6 +2,8 @@
 
 namespace vemo {
 
-QString Sprachen::xText(const QString& text, const QString&) { return text; }
+QString Sprachen::xText(const QString& text, const QString&) {
+    return text;
+}
 
 } // namespace vemo

@@ -20,9 +20,13 @@ std::optional<QString> AufzeichnungsUi::dateiÖffnen(const DateiDialog& dialog) 
     return gewählteDatei;
 }
 
-void AufzeichnungsUi::sanduhr(bool an) { sanduhrTiefe += an ? 1 : -1; }
+void AufzeichnungsUi::sanduhr(bool an) {
+    sanduhrTiefe += an ? 1 : -1;
+}
 
-void AufzeichnungsUi::DoEvents() { QCoreApplication::processEvents(); }
+void AufzeichnungsUi::DoEvents() {
+    QCoreApplication::processEvents();
+}
 
 int AufzeichnungsUi::zeigeModal(DialogController& dialog) {
     dialoge << dialog.metaObject()->className();

@@ -26,9 +26,9 @@ public:
     int textBreite(const QString& text) override { return int(text.size()) * 90; }
 
     QList<Meldung> meldungen;
-    QStringList dialoge;          // class names of the dialogs shown
+    QStringList dialoge; // class names of the dialogs shown
     QList<DateiDialog> dateiDialoge;
-    QList<int> antworten;         // answers to give, in order; then the default button
+    QList<int> antworten; // answers to give, in order; then the default button
     std::optional<QString> gewählteDatei;
     int sanduhrTiefe = 0;
     // Drives a dialog shown modally or modeless; a modal one that stays open then runs in a local

@@ -24,9 +24,13 @@ int KonsolenUi::MsgBox(const QString& text, const QString& titel, const MsgStil&
     return antworten.value(stil.standardKnopf - 1, antworten.first());
 }
 
-std::optional<QString> KonsolenUi::dateiÖffnen(const DateiDialog&) { return std::nullopt; }
+std::optional<QString> KonsolenUi::dateiÖffnen(const DateiDialog&) {
+    return std::nullopt;
+}
 
-void KonsolenUi::DoEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
+void KonsolenUi::DoEvents() {
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
 
 int warteAufSchließen(DialogController& dialog) {
     if (dialog.istOffen()) {
@@ -42,8 +46,12 @@ int KonsolenUi::zeigeModal(DialogController& dialog) {
     return warteAufSchließen(dialog);
 }
 
-void KonsolenUi::zeigeNichtModal(DialogController& dialog) { dialog.geöffnet(); }
+void KonsolenUi::zeigeNichtModal(DialogController& dialog) {
+    dialog.geöffnet();
+}
 
-int KonsolenUi::textBreite(const QString& text) { return int(text.size()) * 90; }
+int KonsolenUi::textBreite(const QString& text) {
+    return int(text.size()) * 90;
+}
 
 } // namespace vemo

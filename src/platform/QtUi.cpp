@@ -78,7 +78,9 @@ void QtUi::sanduhr(bool an) {
         QApplication::restoreOverrideCursor();
 }
 
-void QtUi::DoEvents() { QApplication::processEvents(); }
+void QtUi::DoEvents() {
+    QApplication::processEvents();
+}
 
 QDialog* QtUi::ansichtErstellen(DialogController& dialog) {
     const auto& tabelle = ansichten();

@@ -32,7 +32,8 @@ QString SpeicherSettingsStore::GetSetting(const QString& abschnitt, const QStrin
     return werte.value(abschnitt + "/" + schlüssel, vorgabe);
 }
 
-void SpeicherSettingsStore::SaveSetting(const QString& abschnitt, const QString& schlüssel, const QString& wert) {
+void SpeicherSettingsStore::SaveSetting(const QString& abschnitt, const QString& schlüssel,
+                                        const QString& wert) {
     werte.insert(abschnitt + "/" + schlüssel, wert);
 }
 

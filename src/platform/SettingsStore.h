@@ -24,7 +24,8 @@ public:
     static std::unique_ptr<QtSettingsStore> inDatei(const QString& pfad);
     ~QtSettingsStore() override;
 
-    QString GetSetting(const QString& abschnitt, const QString& schlüssel, const QString& vorgabe = {}) const override;
+    QString GetSetting(const QString& abschnitt, const QString& schlüssel,
+                       const QString& vorgabe = {}) const override;
     void SaveSetting(const QString& abschnitt, const QString& schlüssel, const QString& wert) override;
 
 private:
@@ -35,7 +36,8 @@ private:
 // Kept in memory only; for tests.
 class SpeicherSettingsStore : public SettingsStore {
 public:
-    QString GetSetting(const QString& abschnitt, const QString& schlüssel, const QString& vorgabe = {}) const override;
+    QString GetSetting(const QString& abschnitt, const QString& schlüssel,
+                       const QString& vorgabe = {}) const override;
     void SaveSetting(const QString& abschnitt, const QString& schlüssel, const QString& wert) override;
 
     QMap<QString, QString> werte; // "section/key"

@@ -8,7 +8,14 @@ namespace vemo {
 class DialogController;
 
 enum class MsgSymbol { Keins, Kritisch, Frage, Warnung, Information };
-enum class MsgKnöpfe { Ok, OkAbbrechen, AbbrechenWiederholenIgnorieren, JaNeinAbbrechen, JaNein, WiederholenAbbrechen };
+enum class MsgKnöpfe {
+    Ok,
+    OkAbbrechen,
+    AbbrechenWiederholenIgnorieren,
+    JaNeinAbbrechen,
+    JaNein,
+    WiederholenAbbrechen
+};
 
 // The answers of a message box, numbered as the system's constants are.
 namespace antwort {

@@ -28,7 +28,9 @@ QString ohneNachnullen(QString s) {
 
 } // namespace
 
-const QLocale& locale() { return aktuell(); }
+const QLocale& locale() {
+    return aktuell();
+}
 
 void setzen(const QLocale& l) {
     aktuell() = l;
@@ -100,7 +102,9 @@ QString datumText(const QDate& d) {
     return aktuell().toString(d, format);
 }
 
-QString zeitText(const QTime& t) { return t.toString("HH:mm:ss"); }
+QString zeitText(const QTime& t) {
+    return t.toString("HH:mm:ss");
+}
 
 std::optional<QDate> datum(const QString& eingabe) {
     const QString tag = eingabe.trimmed().section(' ', 0, 0);

@@ -22,7 +22,9 @@ QString text(double wert);
 // count as the decimal mark; a text with both, with two marks, or with anything else that is not
 // part of a number is not numeric.
 std::optional<double> zahl(const QString& text);
-inline bool istNumerisch(const QString& t) { return zahl(t).has_value(); }
+inline bool istNumerisch(const QString& t) {
+    return zahl(t).has_value();
+}
 
 // The numeric prefix of a text, read as far as it goes: blanks are skipped, "." is the only
 // decimal mark, "&H" starts a hexadecimal number; nothing numeric reads as 0.

@@ -9,9 +9,9 @@ namespace vemo {
 
 namespace detail {
 std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
-                                               const Verbindung::Tabelle* t);
+                                              const Verbindung::Tabelle* t);
 std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
-                                               const Übersetzung& ü, const QVector<QVariant>& parameter);
+                                              const Übersetzung& ü, const QVector<QVariant>& parameter);
 } // namespace detail
 
 namespace {
@@ -46,8 +46,12 @@ detail::Verbindung& Datenbank::v() const {
     return *m_v;
 }
 
-QString Datenbank::Name() const { return v().pfad(); }
-void Datenbank::Close() { m_v.reset(); }
+QString Datenbank::Name() const {
+    return v().pfad();
+}
+void Datenbank::Close() {
+    m_v.reset();
+}
 
 Recordset Datenbank::OpenRecordset(const QString& quelle) const {
     const QString name = ohneKlammern(quelle);
@@ -79,7 +83,9 @@ bool Datenbank::abfrageVorhanden(const QString& name) const {
     return false;
 }
 
-bool Datenbank::hatTabelle(const QString& name) const { return v().tabelle(ohneKlammern(name)) != nullptr; }
+bool Datenbank::hatTabelle(const QString& name) const {
+    return v().tabelle(ohneKlammern(name)) != nullptr;
+}
 
 void Datenbank::TableDefs(const QString& name) const {
     if (!hatTabelle(name))
@@ -117,7 +123,8 @@ void Datenbank::skriptAusführen(const QString& sql) const {
 void Datenbank::abfrageSpeichern(const QString& name, const QString& text) const {
     skriptAusführen(QString("CREATE TABLE IF NOT EXISTS ") + AbfragenTabelle +
                     " (Name TEXT PRIMARY KEY COLLATE NOCASE, SQL TEXT)");
-    detail::Schritt s(v().anweisung(QString("INSERT OR REPLACE INTO ") + AbfragenTabelle + " VALUES (?1, ?2)"));
+    detail::Schritt s(
+        v().anweisung(QString("INSERT OR REPLACE INTO ") + AbfragenTabelle + " VALUES (?1, ?2)"));
     s.binden(1, name);
     s.binden(2, text);
     s.weiter();

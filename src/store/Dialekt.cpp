@@ -12,7 +12,9 @@ struct Token {
     QString text; // Text, Name, Datum: the content without quotes; others: as written
 };
 
-bool istWortZeichen(QChar c) { return c.isLetterOrNumber() || c == '_' || c.unicode() >= 0x80; }
+bool istWortZeichen(QChar c) {
+    return c.isLetterOrNumber() || c == '_' || c.unicode() >= 0x80;
+}
 
 std::vector<Token> zerlegen(const QString& s) {
     std::vector<Token> t;
@@ -230,7 +232,9 @@ bool nachLike(const std::vector<Token>& t, size_t i) {
     return i > 0 && ist(t[i - 1], "LIKE");
 }
 
-QString likeMuster(QString m) { return m.replace('*', '%').replace('?', '_'); }
+QString likeMuster(QString m) {
+    return m.replace('*', '%').replace('?', '_');
+}
 
 int parameterIndex(const QStringList& parameter, const QString& name) {
     for (int j = 0; j < parameter.size(); ++j)

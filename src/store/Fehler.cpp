@@ -7,7 +7,9 @@ namespace vemo {
 Fehler::Fehler(int nummer, QString beschreibung)
     : m_nummer(nummer), m_beschreibung(std::move(beschreibung)), m_what(meldung().toUtf8()) {}
 
-QString Fehler::meldung() const { return QString::number(m_nummer) + " " + m_beschreibung; }
+QString Fehler::meldung() const {
+    return QString::number(m_nummer) + " " + m_beschreibung;
+}
 
 namespace fehler {
 namespace {

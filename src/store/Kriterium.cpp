@@ -189,7 +189,9 @@ int vergleiche(const QVariant& feld, const QVariant& wert, bool& vergleichbar) {
 bool wieMuster(const QString& text, const QString& muster) {
     QString rx = QRegularExpression::escape(muster);
     rx.replace("\\*", ".*").replace("\\?", ".").replace("%", ".*").replace("_", ".");
-    return QRegularExpression("^" + rx + "$", QRegularExpression::CaseInsensitiveOption).match(text).hasMatch();
+    return QRegularExpression("^" + rx + "$", QRegularExpression::CaseInsensitiveOption)
+        .match(text)
+        .hasMatch();
 }
 
 bool auswerten(const Kriterium::Knoten& k, const Kriterium::Feldzugriff& feld) {
@@ -240,6 +242,8 @@ Kriterium::Kriterium(const QString& text) {
 Kriterium::~Kriterium() = default;
 Kriterium::Kriterium(Kriterium&&) noexcept = default;
 
-bool Kriterium::erfüllt(const Feldzugriff& feld) const { return auswerten(*m_wurzel, feld); }
+bool Kriterium::erfüllt(const Feldzugriff& feld) const {
+    return auswerten(*m_wurzel, feld);
+}
 
 } // namespace vemo

@@ -35,7 +35,7 @@ struct RecordsetDaten {
     QString name;
     bool offen = true;
 
-    bool seitenweise = false; // a table opened by name
+    bool seitenweise = false;                     // a table opened by name
     const Verbindung::Tabelle* tabelle = nullptr; // the table rows are written to; null: read-only
     QString abfrage;
     bool mitRowid = false;
@@ -327,11 +327,19 @@ RecordsetDaten& Recordset::d() const {
     return *m_d;
 }
 
-bool Recordset::istOffen() const { return m_d && m_d->offen; }
-QString Recordset::Name() const { return d().name; }
+bool Recordset::istOffen() const {
+    return m_d && m_d->offen;
+}
+QString Recordset::Name() const {
+    return d().name;
+}
 
-bool Recordset::Eof() const { return d().eof(); }
-bool Recordset::Bof() const { return d().pos < 0 || d().leer(); }
+bool Recordset::Eof() const {
+    return d().eof();
+}
+bool Recordset::Bof() const {
+    return d().pos < 0 || d().leer();
+}
 
 void Recordset::MoveFirst() {
     auto& x = d();
@@ -400,7 +408,9 @@ void Recordset::Move(long anzahl) {
     x.besuchen();
 }
 
-long Recordset::RecordCount() const { return d().besucht; }
+long Recordset::RecordCount() const {
+    return d().besucht;
+}
 
 long Recordset::AbsolutePosition() const {
     auto& x = d();
@@ -417,7 +427,9 @@ void Recordset::setAbsolutePosition(long position) {
     x.besuchen();
 }
 
-Bookmark Recordset::bookmark() const { return d().aktuelle().marke; }
+Bookmark Recordset::bookmark() const {
+    return d().aktuelle().marke;
+}
 
 void Recordset::setBookmark(Bookmark marke) {
     auto& x = d();
@@ -440,12 +452,24 @@ Bookmark Recordset::LastModified() const {
     return x.zuletztGeändert;
 }
 
-QVariant Recordset::Field(const QString& name) const { return d().lesen(d().indexOderFehler(name)); }
-QVariant Recordset::Field(int index) const { return d().lesen(index); }
-QString Recordset::Text(const QString& name) const { return text(Field(name)); }
-void Recordset::setField(const QString& name, const QVariant& wert) { d().schreiben(d().indexOderFehler(name), wert); }
-void Recordset::setField(int index, const QVariant& wert) { d().schreiben(index, wert); }
-int Recordset::FieldCount() const { return int(d().spalten.size()); }
+QVariant Recordset::Field(const QString& name) const {
+    return d().lesen(d().indexOderFehler(name));
+}
+QVariant Recordset::Field(int index) const {
+    return d().lesen(index);
+}
+QString Recordset::Text(const QString& name) const {
+    return text(Field(name));
+}
+void Recordset::setField(const QString& name, const QVariant& wert) {
+    d().schreiben(d().indexOderFehler(name), wert);
+}
+void Recordset::setField(int index, const QVariant& wert) {
+    d().schreiben(index, wert);
+}
+int Recordset::FieldCount() const {
+    return int(d().spalten.size());
+}
 
 QString Recordset::FieldName(int index) const {
     auto& x = d();
@@ -454,7 +478,9 @@ QString Recordset::FieldName(int index) const {
     return x.spalten[index].name;
 }
 
-int Recordset::FieldIndex(const QString& name) const { return d().index(name); }
+int Recordset::FieldIndex(const QString& name) const {
+    return d().index(name);
+}
 
 int Recordset::FieldSize(const QString& name) const {
     static const QRegularExpression größe(R"(\((\d+)\))");
@@ -492,7 +518,9 @@ void Recordset::Update() {
         x.ändern();
 }
 
-void Recordset::CancelUpdate() { d().modus = RecordsetDaten::Modus::Keiner; }
+void Recordset::CancelUpdate() {
+    d().modus = RecordsetDaten::Modus::Keiner;
+}
 
 void Recordset::Delete() {
     auto& x = d();
@@ -509,14 +537,18 @@ void Recordset::Delete() {
     x.nachLöschen = true;
 }
 
-void Recordset::FindFirst(const QString& kriterien) { d().finden(0, kriterien); }
+void Recordset::FindFirst(const QString& kriterien) {
+    d().finden(0, kriterien);
+}
 
 void Recordset::FindNext(const QString& kriterien) {
     auto& x = d();
     x.finden(x.nachLöschen ? x.pos : x.pos + 1, kriterien);
 }
 
-bool Recordset::NoMatch() const { return d().noMatch; }
+bool Recordset::NoMatch() const {
+    return d().noMatch;
+}
 
 void Recordset::Requery() {
     auto& x = d();
@@ -534,7 +566,7 @@ void Recordset::Close() {
 namespace vemo::detail {
 
 std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
-                                               const Verbindung::Tabelle* t) {
+                                              const Verbindung::Tabelle* t) {
     auto d = std::make_shared<RecordsetDaten>();
     d->v = v;
     d->name = name;
@@ -547,7 +579,7 @@ std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>
 }
 
 std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
-                                               const Übersetzung& ü, const QVector<QVariant>& parameter) {
+                                              const Übersetzung& ü, const QVector<QVariant>& parameter) {
     auto d = std::make_shared<RecordsetDaten>();
     d->v = v;
     d->name = name;

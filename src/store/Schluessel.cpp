@@ -64,8 +64,9 @@ qint32 NeueID(const QString& tabelle, const QString& quelle) {
             c.tabelle.clear();
         }
         if (c.tabelle != name) {
-            c.zähler = db().OpenRecordset("SELECT * FROM IDIncrement WHERE OffsetFaktor = " +
-                                          QString::number(c.offsetFaktor) + " And TabelleName = '" + name + "'");
+            c.zähler = db().OpenRecordset(
+                "SELECT * FROM IDIncrement WHERE OffsetFaktor = " + QString::number(c.offsetFaktor) +
+                " And TabelleName = '" + name + "'");
             c.tabelle = name;
         }
         Recordset& z = c.zähler;
@@ -100,7 +101,8 @@ QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
     };
     if (!anweisungen.contains(art))
         throw Fehler(91, "Objektvariable oder With-Blockvariable nicht festgelegt");
-    Recordset rs = db().OpenRecordset(anweisungen[art] + text(elternSchlüssel) + " GROUP BY Code ORDER BY Code");
+    Recordset rs =
+        db().OpenRecordset(anweisungen[art] + text(elternSchlüssel) + " GROUP BY Code ORDER BY Code");
     int i = 1;
     for (; !rs.Eof(); rs.MoveNext()) {
         const double v = zahlformat::val(rs.Text("Code"));
@@ -120,7 +122,8 @@ QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
 QString NächsteProtokollNr() {
     QString nummer;
     mitFalle([&] {
-        Recordset rs = db().OpenRecordset("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;");
+        Recordset rs =
+            db().OpenRecordset("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;");
         const QVariant max = rs.Eof() ? QVariant() : rs.Field("proMax");
         if (!istLeer(max) && zahl(max) != 0)
             nummer = zahlformat::text(zahl(max) + 1).replace(',', '.').trimmed();
@@ -141,13 +144,14 @@ void NeueZeileVorbelegen(const QString& art, Recordset& rs, const QVariant& elte
     const QDate heute = QDate::currentDate();
     if (art == "Kunde") {
         rs.setField("Name", "xxxxx");
-        leer({"Kundennummer", "Kontakt", "Tel", "Fax", "email", "Firma", "Abteilung", "Strasse", "Plz", "Stadt",
-              "Anmerkung"});
+        leer({"Kundennummer", "Kontakt", "Tel", "Fax", "email", "Firma", "Abteilung", "Strasse", "Plz",
+              "Stadt", "Anmerkung"});
     } else if (art == "Anlage") {
         rs.setField("Name", "xxxxx");
         rs.setField("KundeID", eltern);
         rs.setField("Code", NeuerCode("Anlage", eltern));
-        leer({"Nr", "Strasse", "Plz", "Stadt", "Kontakt", "Tel", "Fax", "email", "Anlagenplaner", "Bemerkung"});
+        leer({"Nr", "Strasse", "Plz", "Stadt", "Kontakt", "Tel", "Fax", "email", "Anlagenplaner",
+              "Bemerkung"});
         rs.setField("NächstePrüfung", heute);
         rs.setField("Intervall", 48);
         leer({"Bild"});

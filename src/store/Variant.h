@@ -6,10 +6,18 @@ namespace vemo {
 
 // Values of fields and of the host's variant properties. An invalid QVariant is Empty (never set);
 // a QVariant holding nullptr is Null (a field without a value).
-inline QVariant nullWert() { return QVariant::fromValue(nullptr); }
-inline bool istEmpty(const QVariant& v) { return !v.isValid(); }
-inline bool istNull(const QVariant& v) { return v.isValid() && v.isNull(); }
-inline bool istLeer(const QVariant& v) { return !v.isValid() || v.isNull(); }
+inline QVariant nullWert() {
+    return QVariant::fromValue(nullptr);
+}
+inline bool istEmpty(const QVariant& v) {
+    return !v.isValid();
+}
+inline bool istNull(const QVariant& v) {
+    return v.isValid() && v.isNull();
+}
+inline bool istLeer(const QVariant& v) {
+    return !v.isValid() || v.isNull();
+}
 
 // The value appended to an empty text: Null and Empty give "", numbers and dates are written in
 // the one number locale.

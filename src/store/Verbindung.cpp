@@ -21,7 +21,9 @@ void valFunktion(sqlite3_context* ctx, int, sqlite3_value** argv) {
     sqlite3_result_double(ctx, zahlformat::val(QString::fromUtf8(t)));
 }
 
-QString utf8(const char* s) { return s ? QString::fromUtf8(s) : QString(); }
+QString utf8(const char* s) {
+    return s ? QString::fromUtf8(s) : QString();
+}
 
 QString textArgument(sqlite3_value* v) {
     return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_value_text(v)), sqlite3_value_bytes(v));
@@ -119,8 +121,8 @@ Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
     sqlite3_busy_timeout(m_db, 15000);
     funktionenAnmelden(m_db);
     char* fehlerText = nullptr;
-    const int rc2 = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;", nullptr, nullptr,
-                                 &fehlerText);
+    const int rc2 = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;", nullptr,
+                                 nullptr, &fehlerText);
     sqlite3_free(fehlerText);
     if (rc2 != SQLITE_OK) {
         const int fehlerNr = rc2;
@@ -256,8 +258,8 @@ void Schritt::binden(int index, const QVariant& wert, const QString& typ) {
         if (!d)
             throw fehler::mit(fehler::TypenUnverträglich, t);
         const QTime zeit = QTime::fromString(t.trimmed().section(' ', 1, 1), "H:mm:ss");
-        const QString iso = zeit.isValid() ? QDateTime(*d, zeit).toString("yyyy-MM-dd HH:mm:ss")
-                                           : d->toString(Qt::ISODate);
+        const QString iso =
+            zeit.isValid() ? QDateTime(*d, zeit).toString("yyyy-MM-dd HH:mm:ss") : d->toString(Qt::ISODate);
         sqlite3_bind_text(m_s, index, iso.toUtf8().constData(), -1, SQLITE_TRANSIENT);
         return;
     }

@@ -18,11 +18,13 @@ protected:
 TEST(Dialekt, TranslatesNamesStringsAndWrappers) {
     EXPECT_EQ(übersetzen("SELECT * FROM 0100_Messung WHERE Funktion = \"it's\"").sql,
               "SELECT * FROM \"0100_Messung\" WHERE Funktion = 'it''s'");
-    EXPECT_EQ(übersetzen("DELETE * FROM 0100_EinleseGeräteDaten").sql, "DELETE FROM \"0100_EinleseGeräteDaten\"");
+    EXPECT_EQ(übersetzen("DELETE * FROM 0100_EinleseGeräteDaten").sql,
+              "DELETE FROM \"0100_EinleseGeräteDaten\"");
     EXPECT_EQ(übersetzen("(SELECT a FROM t ORDER BY a;)").sql, "SELECT a FROM t ORDER BY a");
     EXPECT_EQ(übersetzen("SELECT x FROM t WHERE ((t.a) = 1))ORDER BY x;").sql,
               "SELECT x FROM t WHERE ((t.a) = 1))ORDER BY x");
-    const Übersetzung p = übersetzen("PARAMETERS paraKundeID Long; SELECT * FROM [0100_Anlage] WHERE KundeID = [paraKundeID]");
+    const Übersetzung p =
+        übersetzen("PARAMETERS paraKundeID Long; SELECT * FROM [0100_Anlage] WHERE KundeID = [paraKundeID]");
     EXPECT_EQ(p.parameter, QStringList{"paraKundeID"});
     EXPECT_EQ(p.sql, "SELECT * FROM \"0100_Anlage\" WHERE KundeID = ?1");
     EXPECT_TRUE(p.einfacheAuswahl);
@@ -36,23 +38,27 @@ TEST_F(DialektTest, StatementsOfTheComponentRun) {
         "(2, 1, '2024-05-01', '00000007'), (3, 1, '2024-05-01', NULL);");
 
     // The newest inspection first, of two on one date the higher key.
-    EXPECT_EQ(wert("SELECT [0100_Prüfung].PrüfungID FROM [0100_Prüfung] Where ((([0100_Prüfung].AnlagenID) = 1))"
-                   "ORDER BY [0100_Prüfung].Datum DESC , [0100_Prüfung].PrüfungID DESC;"),
-              "3");
+    EXPECT_EQ(
+        wert("SELECT [0100_Prüfung].PrüfungID FROM [0100_Prüfung] Where ((([0100_Prüfung].AnlagenID) = 1))"
+             "ORDER BY [0100_Prüfung].Datum DESC , [0100_Prüfung].PrüfungID DESC;"),
+        "3");
     // & reads Null as an empty text, Val() takes the numeric prefix.
     EXPECT_EQ(wert("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;"), "7");
     EXPECT_EQ(wert("SELECT 'P' & ProtokollNr & \"-\" FROM 0100_Prüfung WHERE PrüfungID = 3"), "P-");
     // Division as the dialect computes it: 1/2 is a half.
     EXPECT_EQ(wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 1/2 AND Selektive = 0"),
               wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 0.5 AND Selektive = 0"));
-    EXPECT_FALSE(wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 1/2 AND Selektive = 0").isEmpty());
+    EXPECT_FALSE(
+        wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 1/2 AND Selektive = 0").isEmpty());
     // Like with the dialect's wildcard.
     EXPECT_EQ(wert("SELECT Count(*) FROM Kunde WHERE Name Like \"*e*\""), "2");
 
     // Grouping with Having, left joins twice to one table under an alias.
-    sql("INSERT INTO \"0100_EinleseDaten\" (MessungID, KundeNr, AnlageNr, KundeID) VALUES (10, '12', '002', 0), (11, '99', '', 1);");
+    sql("INSERT INTO \"0100_EinleseDaten\" (MessungID, KundeNr, AnlageNr, KundeID) VALUES (10, '12', '002', "
+        "0), (11, '99', '', 1);");
     Recordset g = db().OpenRecordset(
-        "SELECT [0100_EinleseDaten].MessungID, Kunde_1.KundeID AS K1, Kunde.KundeID, [0100_Anlage_1].AnlageID "
+        "SELECT [0100_EinleseDaten].MessungID, Kunde_1.KundeID AS K1, Kunde.KundeID, "
+        "[0100_Anlage_1].AnlageID "
         "FROM ((0100_EinleseDaten LEFT JOIN Kunde ON [0100_EinleseDaten].KundeID = Kunde.KundeID) "
         "LEFT JOIN Kunde AS Kunde_1 ON [0100_EinleseDaten].KundeNR = Kunde_1.Nummernkreis) "
         "LEFT JOIN 0100_Anlage AS 0100_Anlage_1 ON ([0100_EinleseDaten].AnlageNR = [0100_Anlage_1].Code) "
@@ -70,7 +76,8 @@ TEST_F(DialektTest, StatementsOfTheComponentRun) {
     Recordset k = db().OpenRecordset(
         "(SELECT [0100_Stromkreis].VerteilerID, [0100_Stromkreis].StromkreisID, [0100_Stromkreis].Code, "
         "[0100_Kabeltyp].Name, [0100_Sicherungstyp].SicherungstypID, [0100_Sicherungstyp].Grenzwert, "
-        "[0100_RCDtyp].Name FROM 0100_Sicherungstyp RIGHT JOIN (0100_RCDtyp RIGHT JOIN (0100_Kabeltyp RIGHT JOIN "
+        "[0100_RCDtyp].Name FROM 0100_Sicherungstyp RIGHT JOIN (0100_RCDtyp RIGHT JOIN (0100_Kabeltyp RIGHT "
+        "JOIN "
         "0100_Stromkreis ON [0100_Kabeltyp].KabeltypID = [0100_Stromkreis].KabelTypID) ON "
         "[0100_RCDtyp].RCDtypID = [0100_Stromkreis].RCDTypID) ON [0100_Sicherungstyp].SicherungstypID = "
         "[0100_Stromkreis].SicherungsTypID WHERE StromkreisID = 1 ORDER BY [0100_Stromkreis].Code, "

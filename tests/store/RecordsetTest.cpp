@@ -12,7 +12,8 @@ protected:
     void zeilen(int n) {
         QString s;
         for (int i = 1; i <= n; ++i)
-            s += QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, StromkreisNr, Datum) VALUES (%1, 'S%1', %2);")
+            s += QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, StromkreisNr, Datum) VALUES (%1, "
+                         "'S%1', %2);")
                      .arg(i)
                      .arg(i == 3 ? "NULL" : "'x'");
         sql(s);
@@ -143,7 +144,8 @@ TEST_F(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
     anlagen.FindFirst("Code ='003'");
     EXPECT_EQ(anlagen.Field("AnlageID").toInt(), 2);
 
-    sql("CREATE TABLE Woerter (\"0\" TEXT, \"1\" TEXT); INSERT INTO Woerter VALUES ('a', 'Name'), ('b', 'Version');");
+    sql("CREATE TABLE Woerter (\"0\" TEXT, \"1\" TEXT); INSERT INTO Woerter VALUES ('a', 'Name'), ('b', "
+        "'Version');");
     Recordset w = db().OpenRecordset("Woerter");
     w.FindFirst("[1] = 'Version'");
     EXPECT_EQ(w.Text("0"), "b");
@@ -176,7 +178,9 @@ TEST_F(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
 TEST_F(RecordsetTest, NamesAreCaseInsensitiveAndMissingTablesAreReported) {
     sql("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (1, 1, '001');");
     EXPECT_EQ(db().OpenRecordset("0100_STROMKREIS").Text("code"), "001");
-    EXPECT_EQ(db().OpenRecordset("SELECT * FROM 0100_stromkreis WHERE CODE = '001'").Field("stromkreisid").toInt(), 1);
+    EXPECT_EQ(
+        db().OpenRecordset("SELECT * FROM 0100_stromkreis WHERE CODE = '001'").Field("stromkreisid").toInt(),
+        1);
     EXPECT_EQ(db().OpenRecordset("0100_prüfung").FieldIndex("PRÜFUNGID"), 0);
     EXPECT_NO_THROW(db().TableDefs("kunde"));
     EXPECT_EQ(fehlerNummer([&] { db().TableDefs("Kunden"); }), 3078);

@@ -1,5 +1,5 @@
-#include "store/Recordset.h"
 #include "store/Schluessel.h"
+#include "store/Recordset.h"
 #include "store/Variant.h"
 #include "support/Testumgebung.h"
 
@@ -34,16 +34,18 @@ TEST_F(SchluesselTest, KeysCountPerTableAndReplica) {
 
 TEST_F(SchluesselTest, CodesFillTheFirstGap) {
     EXPECT_EQ(NeuerCode("Anlage", 1), "001");
-    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001'), (2, 1, '002'), (3, 1, '004'),"
+    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001'), (2, 1, '002'), (3, 1, "
+        "'004'),"
         "(4, 2, 'abc'), (5, 3, '2'), (6, 3, '10');");
     EXPECT_EQ(NeuerCode("Anlage", 1), "003");
     EXPECT_EQ(NeuerCode("Anlage", 2), "001");
     EXPECT_EQ(NeuerCode("Anlage", 3), "001"); // "10" sorts before "2" and ends the climb
     QString viele;
     for (int i = 1; i <= 998; ++i)
-        viele += QString("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (%1, 9, '%2');")
-                     .arg(i)
-                     .arg(i, 3, 10, QChar('0'));
+        viele +=
+            QString("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (%1, 9, '%2');")
+                .arg(i)
+                .arg(i, 3, 10, QChar('0'));
     sql(viele);
     EXPECT_EQ(NeuerCode("Stromkreis", 9), "");
     EXPECT_THROW(NeuerCode("Kunde", 1), Fehler);

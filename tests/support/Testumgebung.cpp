@@ -35,7 +35,9 @@ void Testumgebung::neueDatenbank(bool demo) {
     modul().Datenbankverzeichnis = QDir::toNativeSeparators(m_dir.path());
 }
 
-void Testumgebung::sql(const QString& natives) const { modul().db.skriptAusführen(natives); }
+void Testumgebung::sql(const QString& natives) const {
+    modul().db.skriptAusführen(natives);
+}
 
 QString Testumgebung::wert(const QString& abfrage) const {
     Recordset rs = modul().db.OpenRecordset(abfrage);
@@ -46,6 +48,8 @@ long Testumgebung::anzahl(const QString& tabelle) const {
     return wert("SELECT Count(*) FROM [" + tabelle + "]").toLong();
 }
 
-QString quelle(const QString& relativ) { return QString(VEMO_SOURCE_DIR) + "/" + relativ; }
+QString quelle(const QString& relativ) {
+    return QString(VEMO_SOURCE_DIR) + "/" + relativ;
+}
 
 } // namespace vemo::test

@@ -38,5 +38,9 @@ QString quelle(const QString& relativ);
 } // namespace vemo::test
 
 // Readable texts in the failure messages of the tests.
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
-inline void PrintTo(const QStringList& l, std::ostream* os) { *os << '[' << l.join("; ").toStdString() << ']'; }
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
+inline void PrintTo(const QStringList& l, std::ostream* os) {
+    *os << '[' << l.join("; ").toStdString() << ']';
+}

@@ -1,0 +1,142 @@
+#include "parsers/Primitive.h"
+#include "platform/Zahlformat.h"
+#include "support/Testumgebung.h"
+
+using namespace vemo;
+
+namespace {
+
+struct Gefunden {
+    QString zahl;
+    QString rest;
+    int start;
+};
+
+Gefunden getZahl(const QString& zeile, int start = 1) {
+    QString rest = "vorher";
+    const QString z = GetZahl(zeile, start, rest);
+    return {z, rest, start};
+}
+
+class Zahlformate : public ::testing::Test {
+protected:
+    void TearDown() override { zahlformat::ausUmgebung(); }
+};
+
+TEST(Primitive, GetZahlFindsValueUnitAndNextStart) {
+    Gefunden g = getZahl("R = 0,35 Ohm");
+    EXPECT_EQ(g.zahl, "0,35");
+    EXPECT_EQ(g.rest, "Ohm");
+    EXPECT_EQ(g.start, 13); // behind the unit
+
+    g = getZahl("  Riso = o.r. MOhm");
+    EXPECT_EQ(g.zahl, "o.r.");
+    EXPECT_EQ(g.rest, "MOhm");
+
+    g = getZahl("Ub 12,3 25,0");
+    EXPECT_EQ(g.zahl, "12,3");
+    EXPECT_EQ(g.rest, "");
+    EXPECT_EQ(g.start, 9); // standing on "25,0"
+    g = getZahl("Ub 12,3 25,0", g.start);
+    EXPECT_EQ(g.zahl, "25,0");
+
+    EXPECT_EQ(getZahl(".5 V").zahl, "0.5");
+    EXPECT_EQ(getZahl(",5 V").zahl, "0,5");
+    EXPECT_EQ(getZahl("Isc = <0,1 kA").zahl, "<0,1");
+    EXPECT_EQ(getZahl("RCD AC 180 x1").zahl, "AC 180°"); // the phase mark of an RCD test
+    EXPECT_EQ(getZahl("AC 180").zahl, "AC 180°");
+
+    g = getZahl("nur Worte hier");
+    EXPECT_EQ(g.zahl, "");
+    EXPECT_EQ(g.rest, "");
+    g = getZahl("Riso OL");
+    EXPECT_EQ(g.zahl, "o.r.");
+}
+
+TEST(Primitive, FunctionNamesOfBothDumpFamilies) {
+    QString funktion;
+    EXPECT_EQ(GetFunktion("Zs = 0,35 Ohm", funktion, "Ohm"), "Zs");
+    EXPECT_EQ(funktion, "Zs");
+    EXPECT_EQ(GetFunktion("Ik = 657 A", funktion, "A"), "Zs Ik"); // under the current main function
+    EXPECT_EQ(GetFunktion("Zs Ik = 657 A", funktion, "A"), "Zs Ik");
+    EXPECT_EQ(GetFunktion("Riso 500V = 245 MOhm", funktion, "MOhm"),
+              "Riso MOhm"); // a test voltage in the name
+    funktion.clear();
+    EXPECT_EQ(GetFunktion("IdFI   S  30 mA", funktion, "mA"), "IdFI S mA");
+    EXPECT_EQ(funktion, "IdFI");
+    funktion.clear();
+    EXPECT_EQ(GetFunktion("tFI 25 ms", funktion, "ms"), "tFI ms");
+
+    QString f2, w2;
+    EXPECT_EQ(GetFunktionMul("0001 R500V: 245,0 MOhm", f2, w2), "Riso MOhm");
+    EXPECT_EQ(f2, "Riso V");
+    EXPECT_EQ(w2, "500");
+    EXPECT_EQ(GetFunktionMul("R: 0,12 Ohm", f2, w2), "LOW Ohm");
+    EXPECT_EQ(f2, "");
+    EXPECT_EQ(GetFunktionMul("ZS0: 0,45 Ohm", f2, w2), "ZS");
+    EXPECT_EQ(GetFunktionMul("Ub: 3,5 V", f2, w2), "Ub");
+    EXPECT_EQ(GetFunktionMul("ohne Doppelpunkt", f2, w2), "");
+}
+
+TEST(Primitive, SmallHelpers) {
+    EXPECT_EQ(DelZeichen("Zs = 1 ! Kommentar"), "Zs = 1 ");
+    EXPECT_EQ(DelZeichen("kein Kommentar"), "kein Kommentar");
+    EXPECT_EQ(SetNull("0"), "");
+    EXPECT_EQ(SetNull("x"), "");
+    EXPECT_EQ(SetNull("000"), "");
+    EXPECT_EQ(SetNull("12"), "012");
+    EXPECT_EQ(SetNull("1234"), "234");
+    EXPECT_TRUE(IstGrösser("5", ">3"));
+    EXPECT_FALSE(IstGrösser(">3", "5"));
+    EXPECT_TRUE(IstGrösser("1,5", "2"));
+    EXPECT_FALSE(IstGrösser("2", "1.5"));
+    EXPECT_TRUE(IstKleiner("5", "3"));
+    EXPECT_TRUE(IstKleiner(">5", "<3"));
+    EXPECT_FALSE(IstKleiner("<3", "5"));
+}
+
+TEST_F(Zahlformate, ValuesTakeTheNormalFormOfTheLocale) {
+    zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(WertText("0.30"), "0,3");
+    EXPECT_EQ(WertText("0,30"), "0,3");
+    EXPECT_EQ(WertText("<0.10"), "<0,1");
+    EXPECT_EQ(WertText("o.r."), "o.r.");
+    EXPECT_EQ(WertText("AC 180°"), "AC 180°");
+    EXPECT_EQ(WertText("1.2.3"), "1.2.3");
+    EXPECT_EQ(WertText(""), "");
+    zahlformat::setzen(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    EXPECT_EQ(WertText("0,30"), "0.3");
+    EXPECT_EQ(WertText("1500"), "1500");
+}
+
+class EinheitTest : public test::Testumgebung {};
+
+TEST_F(EinheitTest, ConversionByTheFirstLettersOfTheUnits) {
+    EXPECT_EQ(WertEinheit("1,5", "kOhm", "Ohm"), "1500");
+    EXPECT_EQ(WertEinheit("<0,2", "GOhm", "MOhm"), "<200");
+    EXPECT_EQ(WertEinheit("1,5", "kA", "A"), "1500");
+    EXPECT_EQ(WertEinheit("25", "mA", "A"), "0.025");
+    EXPECT_EQ(WertEinheit("2,5", "mA", "A"), "0,0025");
+    EXPECT_EQ(WertEinheit("0,5", "A", "mA"), "500");
+    EXPECT_EQ(WertEinheit("7", "Ohm", "Ohm"), "7");
+    EXPECT_EQ(WertEinheit("o.r.", "kOhm", "Ohm"), "o.r.");
+    EXPECT_EQ(WertEinheit("7", "", "Ohm"), "7");
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(WertEinheit("5", "MOhm", "Ohm"), "5");
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(m_ui.meldungen[0].text, "Unbekannte Einheit 5 MOhm Ohm");
+    EXPECT_EQ(m_ui.meldungen[0].titel, "vemotrix professional");
+}
+
+TEST_F(EinheitTest, FunctionTableLookUp) {
+    sql("INSERT INTO \"0100_TeilFunktion\" VALUES ('Zs', 'LOOPRS', 'Ohm');");
+    QString spalte = "alt", einheit = "alt";
+    EXPECT_FALSE(TeilFunktionSuchen("zs", spalte, einheit));
+    EXPECT_EQ(spalte, "LOOPRS");
+    EXPECT_EQ(einheit, "Ohm");
+    EXPECT_TRUE(TeilFunktionSuchen("Unbekannt", spalte, einheit));
+    EXPECT_EQ(spalte, "LOOPRS"); // left as it was
+    EXPECT_THROW(TeilFunktionSuchen("it's", spalte, einheit), Fehler);
+}
+
+} // namespace
