@@ -58,6 +58,8 @@ bool mitFalle(const std::function<void()>& routine) {
         fehlerZeigen(f);
     } catch (const std::exception& e) {
         fehlerZeigen(Fehler(51, QString("Interner Fehler: ") + e.what()));
+    } catch (...) {
+        fehlerZeigen(Fehler(51, "Interner Fehler"));
     }
     return false;
 }

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace vemo {
 
@@ -32,6 +33,14 @@ void datenbankAnlegen(const QString& pfad, bool demo) {
     skripteAusführen(db, "host-*.sql");
     if (demo)
         skripteAusführen(db, "demo-*.sql");
+    const QDir neben = QFileInfo(pfad).absoluteDir();
+    for (const QString& tabelle : {QString("Ruvo.MNU"), QString("Ruvo.MUL")}) {
+        QFile::remove(neben.filePath(tabelle));
+        if (!QFile::copy(":/data/" + tabelle, neben.filePath(tabelle)))
+            throw fehler::mit(fehler::PfadZugriff, neben.filePath(tabelle));
+        QFile::setPermissions(neben.filePath(tabelle),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    }
 }
 
 } // namespace vemo

@@ -6,7 +6,8 @@ namespace vemo {
 
 // Writes a new host database: the schema, the saved queries and the default host data
 // (data/host-*.sql); with demo, customers, plants and instruments to play with (data/demo-*.sql).
-// An existing file is replaced.
+// An existing file is replaced. The word tables \Ruvo.MNU and \Ruvo.MUL of the host's
+// installation are written beside it.
 void datenbankAnlegen(const QString& pfad, bool demo);
 
 // Runs the scripts of the resources whose names match the pattern, in the order of their names.

@@ -1,0 +1,91 @@
+#include "host/DateiEinlesen.h"
+
+#include "host/Arbeitsdateien.h"
+#include "host/Dateinummern.h"
+#include "host/Geraetetypen.h"
+#include "host/ModulState.h"
+#include "host/Transfer.h"
+#include "links/SorelinErkennung.h"
+#include "parsers/EinlesenVonDatei.h"
+#include "platform/Textdatei.h"
+#include "platform/Ui.h"
+#include "store/Variant.h"
+
+#include <QDir>
+#include <utility>
+
+namespace vemo {
+namespace {
+
+// The words of a first line and the selector they stand for; the first hit decides, so the longer
+// model names come before the plain family word.
+const std::pair<QString, QString> Erkennung[] = {
+    {"OMNIVAR", selektor::Deutsch},       {"KONT EX", selektor::Deutsch},
+    {"RUVO Gm", selektor::Deutsch},       {"ZEMAK 3710B", selektor::Zemak3710B},
+    {"ZEMAK 3720", selektor::Zemak3720},  {"ZEMAK 3740", selektor::Zemak3740},
+    {"Quentavoir", selektor::Quentavoir}, {"ZEMAK", selektor::Zemak},
+};
+
+QString selektorAusZeile(const QString& zeile) {
+    for (const auto& [wort, s] : Erkennung)
+        if (zeile.contains(wort, Qt::CaseInsensitive))
+            return s;
+    return selektor::Kontalex; // the one format without a recognisable first line
+}
+
+void dateiEinlesen(const QString& pfad) {
+    ModulState& m = modul();
+    if (pfad.trimmed().isEmpty())
+        return;
+    m.dateinameGewählt = pfad;
+    GeräteErkennen(pfad);
+    m.backupPfad = pfad;
+    m.arbeitsquelle = pfad;
+    // Each file opened uses up a number, although no copy is made.
+    m.backupNummer = NächsteDateiNummer();
+    dateiKopieren(pfad, arbeitsdatei(rohdateiFür(m.Selektor())));
+    m.aktuellesPrüfgerät = 0;
+    m.DatenloggerMode = false;
+    EinlesenVonDatei();
+    if (m.Abbruchmerker != 1 && m.DatenloggerMode)
+        datenpoolVorbereiten();
+}
+
+} // namespace
+
+void GeräteErkennen(const QString& pfad) {
+    modul().arbeitsquelle = pfad;
+    mitFalle([&] {
+        if (CheckSorelinTyp(pfad)) {
+            modul().Selektor() = selektor::Sorelin;
+            return;
+        }
+        Textdatei f(pfad);
+        QString zeile = f.zeileLesen();
+        if (zeile.trimmed().isEmpty() || zeile.trimmed() == "0")
+            zeile = f.zeileLesen();
+        modul().Selektor() = selektorAusZeile(zeile);
+    });
+}
+
+void EinlesenAusDatei() {
+    ModulState& m = modul();
+    ui().DoEvents();
+    m.Abbruchmerker = 0;
+    m.dateinameGewählt.clear();
+    const QString titel = xText("Messungen");
+    const auto pfad = ui().dateiÖffnen(
+        {titel, titel + " (*.ser)|*.ser", text(m.BackupVerzeichnis) + QDir::separator(), "ser"});
+    if (!pfad)
+        return; // cancelled: nothing changes
+    dateiEinlesen(*pfad);
+}
+
+void EinlesenAusDateiName(const QString& dateiname) {
+    ui().DoEvents();
+    modul().Abbruchmerker = 0;
+    modul().dateinameGewählt.clear();
+    dateiEinlesen(dateiname);
+}
+
+} // namespace vemo

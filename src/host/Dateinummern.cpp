@@ -1,0 +1,105 @@
+#include "host/Dateinummern.h"
+
+#include "host/Arbeitsdateien.h"
+#include "host/Geraetetypen.h"
+#include "host/ModulState.h"
+#include "platform/SettingsStore.h"
+#include "platform/Zahlformat.h"
+#include "store/Variant.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace vemo {
+namespace {
+
+const QString Abschnitt = "Application";
+const QString Schlüssel = "LastFile";
+
+// "LastFile = 00000041" gives 41; the default "00000000" has no text behind the name and counts 0.
+qint64 nummerAus(const QString& zeile) {
+    return qint64(zahlformat::val(zeile.mid(11)));
+}
+
+struct Schritt {
+    QString nummer;
+    QString zeile;
+};
+
+Schritt weiterzählen(qint64& nummer) {
+    ++nummer;
+    const QString ziffern = QString::number(nummer).rightJustified(8, '0');
+    if (ziffern == "99999999") {
+        nummer = 0;
+        return {"00000000", "LastFile = 00000000"};
+    }
+    return {ziffern, "LastFile = " + ziffern};
+}
+
+QString backupVerzeichnis() {
+    const QString v = text(modul().BackupVerzeichnis);
+    if (v.isEmpty() || !QFileInfo(v).isDir())
+        throw fehler::mit(fehler::PfadNichtGefunden, v);
+    return v;
+}
+
+} // namespace
+
+QString NächsteDateiNummer() {
+    QString ergebnis;
+    mitFalle([&] {
+        const QString zeile = settings().GetSetting(Abschnitt, Schlüssel, "00000000");
+        modul().selektorTabelle[19] = zeile;
+        const QDir backup(backupVerzeichnis());
+        qint64 nummer = nummerAus(zeile);
+        Schritt s;
+        do {
+            s = weiterzählen(nummer);
+        } while (QFileInfo::exists(ohneGroßKlein(backup.path(), s.nummer + ".ser")));
+        settings().SaveSetting(Abschnitt, Schlüssel, s.zeile);
+        ergebnis = s.nummer;
+    });
+    return ergebnis;
+}
+
+QString NächsteSepNummer() {
+    QString ergebnis;
+    mitFalle([&] {
+        const QString zeile = settings().GetSetting(Abschnitt, Schlüssel, "00000000");
+        modul().selektorTabelle[22] = zeile;
+        qint64 nummer = nummerAus(zeile);
+        const Schritt s = weiterzählen(nummer);
+        settings().SaveSetting(Abschnitt, Schlüssel, s.zeile);
+        ergebnis = s.nummer;
+    });
+    return ergebnis;
+}
+
+void dateiKopieren(const QString& von, const QString& nach) {
+    if (!QFileInfo::exists(von))
+        throw fehler::mit(fehler::DateiNichtGefunden, von);
+    if (QFileInfo(von).canonicalFilePath() == QFileInfo(nach).canonicalFilePath())
+        return; // the file already is the destination
+    QFile quelle(von);
+    if (!quelle.open(QIODevice::ReadOnly))
+        throw fehler::mit(fehler::PfadZugriff, von);
+    QFile ziel(nach);
+    if (!ziel.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        throw fehler::mit(fehler::PfadZugriff, nach);
+    const QByteArray inhalt = quelle.readAll();
+    if (ziel.write(inhalt) != inhalt.size() || !ziel.flush())
+        throw fehler::mit(fehler::PfadZugriff, nach);
+}
+
+void nummerierteKopieAnlegen(const QString& selektor) {
+    const QString nummer = NächsteDateiNummer();
+    const QString ziel = text(modul().BackupVerzeichnis) + QDir::separator() + nummer + ".ser";
+    modul().backupNummer = nummer;
+    modul().backupPfad = ziel;
+    if (nummer.isEmpty())
+        throw fehler::mit(fehler::PfadNichtGefunden, ziel);
+    dateiKopieren(arbeitsdatei(rohdateiFür(selektor)), ziel);
+}
+
+} // namespace vemo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace vemo {
+
+// The next number of a numbered copy in BackupVerzeichnis: "LastFile" advanced past the numbers
+// whose copy exists. 99999999 is never used: numbering wraps to 00000000. Errors are shown by the
+// standard trap and give an empty number.
+QString NächsteDateiNummer();
+
+// A provisional number: one step, no look at the directory.
+QString NächsteSepNummer();
+
+// Copies the raw file of the selector, byte for byte, to the next numbered file; raises the store's
+// error when the copy fails.
+void nummerierteKopieAnlegen(const QString& selektor);
+
+// Copies a file byte for byte over the destination; raises 53 or 75 when that is not possible.
+void dateiKopieren(const QString& von, const QString& nach);
+
+} // namespace vemo

@@ -1,0 +1,81 @@
+#include "host/Transfer.h"
+
+#include "host/Dateinummern.h"
+#include "host/Geraetetypen.h"
+#include "host/ModulState.h"
+#include "parsers/EinlesenVonDatei.h"
+#include "platform/Ui.h"
+#include "store/Variant.h"
+
+#include <functional>
+#include <map>
+
+namespace vemo {
+namespace {
+
+// A family whose link is not part of this version: the user is told, and the driver leaves.
+Ausgang nochNichtVerfügbar() {
+    ui().MsgBox(xText("Die Datenübertragung von diesem Gerätetyp ist in dieser Version noch nicht möglich."),
+                modul().anwendungstitel);
+    modul().Abbruchmerker = 1;
+    return Ausgang::Verlassen;
+}
+
+// The link of each selector that has a dialog of its own; every other selector is received as a
+// printed dump.
+const std::map<QString, std::function<Ausgang()>>& verbindungen() {
+    static const std::map<QString, std::function<Ausgang()>> tabelle{
+        {selektor::Kontalex, nochNichtVerfügbar},   {selektor::Sorelin, nochNichtVerfügbar},
+        {selektor::Zemak, nochNichtVerfügbar},      {selektor::Zemak3710B, nochNichtVerfügbar},
+        {selektor::Zemak3720, nochNichtVerfügbar},  {selektor::Zemak3740, nochNichtVerfügbar},
+        {selektor::Quentavoir, nochNichtVerfügbar},
+    };
+    return tabelle;
+}
+
+Ausgang dumpEmpfang() {
+    return nochNichtVerfügbar();
+}
+
+} // namespace
+
+Ausgang TransferStarten() {
+    modul().Empfangsende = 0;
+    modul().Abbruchmerker = 0;
+    const auto it = verbindungen().find(modul().Selektor());
+    return it != verbindungen().end() ? it->second() : dumpEmpfang();
+}
+
+void datenpoolVorbereiten() {
+    ui().MsgBox(
+        xText("Die Aufzeichnung eines Datenloggers kann in dieser Version noch nicht übernommen werden. "
+              "Die Datei bleibt erhalten."),
+        modul().anwendungstitel);
+}
+
+void DatenEmpfangen() {
+    ModulState& m = modul();
+    ui().DoEvents();
+    m.aktuellesPrüfgerät = zahl(m.PrüfgerätID);
+    m.Abbruchmerker = 0;
+    m.dateinameGewählt.clear();
+    ui().DoEvents();
+    const auto code = istLeer(m.PrüfgeräteTypID) ? 0 : ganzzahl(m.PrüfgeräteTypID);
+    if (const auto s = selektorFür(int(code)))
+        m.Selektor() = *s; // any other code leaves the selector of the run before in force
+    if (TransferStarten() == Ausgang::Verlassen)
+        return;
+    if (m.Abbruchmerker == 1) {
+        ui().MsgBox(xText("Datenübertragung abgebrochen"), m.anwendungstitel);
+        return;
+    }
+    m.DatenloggerMode = false;
+    EinlesenVonDatei();
+    if (m.Abbruchmerker == 1)
+        return; // the parser has told the user
+    if (m.DatenloggerMode)
+        datenpoolVorbereiten();
+    nummerierteKopieAnlegen(m.Selektor());
+}
+
+} // namespace vemo

@@ -1,0 +1,4 @@
+#pragma once
+namespace vemo {
+void EinlesenVonDatei();
+}

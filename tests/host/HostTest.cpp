@@ -1,0 +1,170 @@
+#include "host/Arbeitsdateien.h"
+#include "host/DateiEinlesen.h"
+#include "host/Dateinummern.h"
+#include "host/Geraetetypen.h"
+#include "host/Modul15a.h"
+#include "store/Variant.h"
+#include "support/Testumgebung.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace vemo;
+
+namespace {
+
+class HostTest : public test::Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        QDir(m_dir.path()).mkpath("sicherung");
+        modul().BackupVerzeichnis = pfad("sicherung");
+    }
+
+    QString datei(const QString& name, const QByteArray& inhalt) const {
+        QFile f(pfad(name));
+        f.open(QIODevice::WriteOnly);
+        f.write(inhalt);
+        return f.fileName();
+    }
+    static QByteArray lesen(const QString& p) {
+        QFile f(p);
+        f.open(QIODevice::ReadOnly);
+        return f.readAll();
+    }
+    QString lastFile() const { return m_settings.GetSetting("Application", "LastFile"); }
+};
+
+TEST_F(HostTest, RecognisesTheFamilyFromTheFirstLines) {
+    const struct {
+        QByteArray inhalt;
+        QString selektor;
+    } fälle[] = {
+        {"OMNIVAR 2\r\n", selektor::Deutsch},
+        {"Messdruck kont ex\r\n", selektor::Deutsch}, // without regard to case
+        {"RUVO GmbH 0100 Multi\r\n", selektor::Deutsch},
+        {"ZEMAK 3710B,1.2,123\r\n", selektor::Zemak3710B},
+        {"ZEMAK 3720,1.0,55\r\n", selektor::Zemak3720},
+        {"ZEMAK 3740,2.0,77\r\n", selektor::Zemak3740},
+        {"HELVARD Quentavoir,1,2\r\n", selektor::Quentavoir},
+        {"ZEMAK 3710,1.1,99\r\n", selektor::Zemak}, // the 3710 without B is the plain family
+        {"0\r\nZEMAK 3720,1,1\r\n", selektor::Zemak3720},
+        {"   \r\nOMNIVAR\r\n", selektor::Deutsch},
+        {"Protokoll Verteiler 1\r\n", selektor::Kontalex},
+        {QByteArray("xx\xFF\xD5\xD5\xD5\x0A\x01", 8), selektor::Sorelin},
+    };
+    for (const auto& f : fälle) {
+        modul().Selektor() = "vorher";
+        GeräteErkennen(datei("probe.ser", f.inhalt));
+        EXPECT_EQ(modul().Selektor(), f.selektor) << f.inhalt.constData();
+    }
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+
+    GeräteErkennen(pfad("fehlt.ser"));
+    EXPECT_EQ(modul().Selektor(), selektor::Sorelin); // an unreadable file keeps the selector
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("53 "));
+}
+
+TEST_F(HostTest, FileNumbersAdvancePastCopiesThatExist) {
+    EXPECT_EQ(NächsteDateiNummer(), "00000001"); // first use, no setting
+    m_settings.SaveSetting("Application", "LastFile", "LastFile = 00000041");
+    datei("sicherung/00000042.ser", "x");
+    EXPECT_EQ(NächsteDateiNummer(), "00000043");
+    EXPECT_EQ(lastFile(), "LastFile = 00000043");
+    EXPECT_EQ(modul().selektorTabelle[19], "LastFile = 00000041");
+
+    m_settings.SaveSetting("Application", "LastFile", "LastFile = 99999998");
+    EXPECT_EQ(NächsteDateiNummer(), "00000000"); // 99999999 is never used
+    EXPECT_EQ(lastFile(), "LastFile = 00000000");
+    EXPECT_EQ(NächsteDateiNummer(), "00000001");
+
+    EXPECT_EQ(NächsteSepNummer(), "00000002");
+    datei("sicherung/00000003.ser", "x");
+    EXPECT_EQ(NächsteSepNummer(), "00000003"); // provisional: no look at the directory
+
+    modul().BackupVerzeichnis = pfad("gibtsnicht");
+    EXPECT_EQ(NächsteDateiNummer(), "");
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("76 "));
+}
+
+TEST_F(HostTest, PropertiesKeepTheirContract) {
+    vemo0100Modul15a k(m_ui, m_settings);
+    k.setPrüfgeräteTypID(104);
+    EXPECT_EQ(k.PrüfgeräteTypID().toString(), "vemotrix professional");
+    EXPECT_TRUE(istEmpty(k.ApplicationName()));
+    k.setApplicationName("Prüfprogramm");
+    EXPECT_TRUE(istEmpty(k.ApplicationName()));
+    EXPECT_EQ(k.PrüfgeräteTypID().toString(), "Prüfprogramm");
+
+    k.setVemotrixDBName(m_dbPfad);
+    EXPECT_TRUE(k.vemotrixDB().istOffen());
+    EXPECT_EQ(QDir(modul().Datenbankverzeichnis), QDir(m_dir.path()));
+    k.setSprache("Deutsch");
+    EXPECT_EQ(k.Sprache(), "Deutsch");
+    EXPECT_EQ(modul().mulTexte.value(7).left(24), "S: 255    FI-Analyse    ");
+    EXPECT_EQ(m_settings.GetSetting("Application", "Directory"), modul().Datenbankverzeichnis);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+
+    k.DatenLogger(); // available, and does nothing
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+
+    k.EinleseDaten();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(m_ui.meldungen[0].text, "Es sind keine Eilnlesedaten vorhanden");
+    EXPECT_EQ(m_ui.meldungen[0].titel, "Prüfprogramm");
+    EXPECT_TRUE(m_ui.dialoge.isEmpty());
+
+    QFile::remove(pfad("Ruvo.MUL"));
+    k.setSprache("Deutsch");
+    ASSERT_EQ(m_ui.meldungen.size(), 2);
+    EXPECT_TRUE(m_ui.meldungen[1].text.startsWith("53   ")); // three blanks for the word tables
+
+    sql("DROP TABLE Kunde");
+    k.setVemotrixDBName(m_dbPfad);
+    EXPECT_FALSE(k.vemotrixDB().istOffen());
+    EXPECT_TRUE(m_ui.meldungen.last().text.startsWith("3078 "));
+}
+
+TEST_F(HostTest, ReadingAFileCopiesItAndUsesUpANumber) {
+    vemo0100Modul15a k(m_ui, m_settings);
+    const QByteArray dump("OMNIVAR \xE4 Messung\r\n---\r\n5830 xyz\r\n\r\n", 33);
+    const QString quelle = datei("kunde.ser", dump);
+    modul().Selektor() = "vorher";
+
+    m_ui.gewählteDatei.reset(); // the user cancels the dialog
+    k.EinlesenAusDatei();
+    EXPECT_EQ(modul().Selektor(), "vorher");
+    EXPECT_EQ(lastFile(), "");
+    ASSERT_EQ(m_ui.dateiDialoge.size(), 1);
+    EXPECT_EQ(m_ui.dateiDialoge[0].titel, "Messungen");
+    EXPECT_EQ(m_ui.dateiDialoge[0].filter, "Messungen (*.ser)|*.ser");
+
+    m_ui.gewählteDatei = quelle;
+    k.EinlesenAusDatei();
+    EXPECT_EQ(modul().Selektor(), selektor::Deutsch);
+    EXPECT_EQ(lesen(arbeitsdatei(datei::Ruvo)), dump); // byte for byte
+    EXPECT_EQ(lastFile(), "LastFile = 00000001");
+    EXPECT_EQ(modul().dateinameGewählt, quelle);
+
+    datei("sicherung/00000002.ser", "x");
+    k.EinlesenAusDateiName(quelle);
+    EXPECT_EQ(lastFile(), "LastFile = 00000003");
+    EXPECT_EQ(QDir(pfad("sicherung")).entryList(QDir::Files).size(), 1); // no copy of a file read
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+}
+
+TEST_F(HostTest, FamiliesWithoutALinkSayTheyAreNotAvailable) {
+    vemo0100Modul15a k(m_ui, m_settings);
+    modul().Selektor() = selektor::Zemak3720;
+    k.setPrüfgeräteTypID(99); // leaves the selector of the run before
+    k.DatenEmpfangen();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.contains("noch nicht möglich"));
+    EXPECT_EQ(modul().Selektor(), selektor::Zemak3720);
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_TRUE(QDir(pfad("sicherung")).entryList(QDir::Files).isEmpty());
+}
+
+} // namespace
