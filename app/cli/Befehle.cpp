@@ -1,5 +1,7 @@
 #include "Befehle.h"
 
+#include "Sitzung.h"
+
 #include "store/Fehler.h"
 #include "store/Schema.h"
 
@@ -32,11 +34,37 @@ int initDb(const Optionen& o) {
     return 0;
 }
 
+// Runs a command on the component set up from the global options.
+int mitKomponente(const Optionen& o, const std::function<int(Sitzung&)>& befehl) {
+    if (o.db.isEmpty()) {
+        ausgeben("vemo0100: " + o.befehl + " needs --db DB");
+        return 2;
+    }
+    Sitzung s(o);
+    if (!s.bereit())
+        return 1;
+    const int status = befehl(s);
+    return status != 0 ? status : s.ergebnis();
+}
+
+int readFile(const Optionen& o) {
+    const QString datei = o.argumente.value(0);
+    if (datei.isEmpty() || datei.startsWith("--")) {
+        ausgeben("vemo0100: read-file needs the path of a dump");
+        return 2;
+    }
+    return mitKomponente(o, [&](Sitzung& s) {
+        s.komponente().EinlesenAusDateiName(datei);
+        return 0;
+    });
+}
+
 } // namespace
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
         {"init-db", initDb},
+        {"read-file", readFile},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

@@ -46,6 +46,7 @@ QString xText(const QString& text) {
 }
 
 void fehlerZeigen(const Fehler& f) {
+    ++modul().gezeigteFehler;
     if (modul().ui)
         modul().ui->MsgBox(f.meldung(), modul().anwendungstitel);
 }

@@ -54,6 +54,9 @@ struct ModulState {
     QString portPfad;
 
     Sprachen sprachen;
+    // Errors shown by the standard trap since the component was loaded; the command line's exit
+    // status tells a failed run by it.
+    int gezeigteFehler = 0;
 
     Ui* ui = nullptr;
     SettingsStore* settings = nullptr;

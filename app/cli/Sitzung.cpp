@@ -1,0 +1,40 @@
+#include "Sitzung.h"
+
+#include "host/ModulState.h"
+#include "platform/Zahlformat.h"
+
+#include <QFileInfo>
+
+using namespace vemo;
+
+Sitzung::Sitzung(const Optionen& o) : m_ui(o.ja) {
+    m_settings = o.settings.isEmpty()
+                     ? std::unique_ptr<SettingsStore>(QtSettingsStore::proBenutzer("vemotrix"))
+                     : std::unique_ptr<SettingsStore>(QtSettingsStore::inDatei(o.settings));
+    modulNeuLaden();
+    m_komponente = std::make_unique<vemo0100Modul15a>(m_ui, *m_settings);
+    vemo0100Modul15a& k = *m_komponente;
+    k.setVemotrixDBName(o.db);
+    if (!bereit())
+        return;
+    k.setSprache(o.sprache.isEmpty() ? QString("Deutsch") : o.sprache);
+    k.setBackupVerzeichnis(o.backup.isEmpty() ? QFileInfo(o.db).absolutePath() : o.backup);
+    if (!o.replica.isEmpty())
+        k.setVmxReplicaID(o.replica);
+    bool istNummer = false;
+    const int port = o.port.toInt(&istNummer);
+    if (istNummer)
+        k.setCommPort(port);
+    else
+        modul().portPfad = o.port;
+    if (!o.typ.isEmpty())
+        k.setPrüfgeräteTypID(o.typ.toInt());
+}
+
+bool Sitzung::bereit() const {
+    return m_komponente->vemotrixDB().istOffen();
+}
+
+int Sitzung::ergebnis() const {
+    return modul().Abbruchmerker == 1 || modul().gezeigteFehler > 0 ? 1 : 0;
+}

@@ -1,0 +1,216 @@
+#include "Hauptfenster.h"
+
+#include "Uebersicht.h"
+
+#include "host/Geraetetypen.h"
+#include "host/Modul15a.h"
+#include "host/ModulState.h"
+#include "platform/SettingsStore.h"
+#include "platform/Ui.h"
+#include "store/Schema.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QVBoxLayout>
+#include <map>
+
+using namespace vemo;
+
+namespace {
+const QString Abschnitt = "Host";
+// How the user knows the instruments of each device type code.
+const std::map<int, QString> Gerätenamen{
+    {100, "Multitester, Corvex"}, {101, "Kontalex"},   {102, "Sorelin"},    {103, "ZEMAK 3710"},
+    {104, "ZEMAK 3710B"},         {105, "ZEMAK 3720"}, {106, "Quentavoir"}, {107, "ZEMAK 3740"}};
+const QStringList SprachenListe{"Deutsch", "Deutsch (&Deutschland)", "Deutsch (&Österreich)",
+                                "English (United Kingdom)"};
+} // namespace
+
+Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstellungen)
+    : m_komponente(komponente), m_einstellungen(einstellungen) {
+    auto* mitte = new QWidget;
+    auto* layout = new QVBoxLayout(mitte);
+    layout->addWidget(eigenschaftenBauen());
+    m_übersicht = new Uebersicht;
+    layout->addWidget(m_übersicht, 1);
+    setCentralWidget(mitte);
+    menüsBauen();
+    m_komponente.setHWndAccess(qint32(winId()));
+
+    m_port->setText(gemerkt("Port", "1"));
+    m_typ->setCurrentIndex(std::max(0, m_typ->findData(gemerkt("Typ", "100").toInt())));
+    m_backup->setText(gemerkt("Backup"));
+    eigenschaftenÜbernehmen();
+    if (const QString db = gemerkt("Datenbank"); !db.isEmpty())
+        datenbankSetzen(db);
+    spracheSetzen(gemerkt("Sprache", "Deutsch"));
+    resize(1100, 700);
+}
+
+QWidget* Hauptfenster::eigenschaftenBauen() {
+    auto* rahmen = new QWidget;
+    auto* form = new QFormLayout(rahmen);
+    const auto zeile = [&](const char* text, QWidget* feld, QPushButton* knopf = nullptr) {
+        auto* label = new QLabel;
+        label->setProperty("Tag", "x");
+        label->setProperty("deutsch", text);
+        m_beschriftungen.push_back(label);
+        if (!knopf) {
+            form->addRow(label, feld);
+            return;
+        }
+        auto* h = new QHBoxLayout;
+        h->addWidget(feld, 1);
+        h->addWidget(knopf);
+        form->addRow(label, h);
+    };
+    m_datenbank = new QLineEdit;
+    m_datenbank->setReadOnly(true);
+    auto* wählen = new QPushButton("...");
+    connect(wählen, &QPushButton::clicked, this, [this] {
+        const QString p = QFileDialog::getOpenFileName(this, xText("Datenbank"), m_datenbank->text());
+        if (!p.isEmpty())
+            datenbankSetzen(p);
+    });
+    zeile("Datenbank", m_datenbank, wählen);
+    m_sprache = new QComboBox;
+    m_sprache->addItems(SprachenListe);
+    connect(m_sprache, &QComboBox::activated, this, [this] { spracheSetzen(m_sprache->currentText()); });
+    zeile("Sprache", m_sprache);
+    m_port = new QLineEdit;
+    m_port->setToolTip("1 = COM1 = /dev/ttyS0; a device path such as /dev/pts/3 is used as it is");
+    connect(m_port, &QLineEdit::editingFinished, this, &Hauptfenster::eigenschaftenÜbernehmen);
+    zeile("Schnittstelle", m_port);
+    m_typ = new QComboBox;
+    for (const auto& t : gerätetypen())
+        m_typ->addItem(QString::number(t.code) + "  " + Gerätenamen.at(t.code), t.code);
+    connect(m_typ, &QComboBox::activated, this, &Hauptfenster::eigenschaftenÜbernehmen);
+    zeile("Gerätetyp", m_typ);
+    m_backup = new QLineEdit;
+    auto* ordner = new QPushButton("...");
+    connect(ordner, &QPushButton::clicked, this, [this] {
+        const QString p =
+            QFileDialog::getExistingDirectory(this, xText("Sicherungsverzeichnis"), m_backup->text());
+        if (!p.isEmpty()) {
+            m_backup->setText(p);
+            eigenschaftenÜbernehmen();
+        }
+    });
+    connect(m_backup, &QLineEdit::editingFinished, this, &Hauptfenster::eigenschaftenÜbernehmen);
+    zeile("Sicherungsverzeichnis", m_backup, ordner);
+    return rahmen;
+}
+
+void Hauptfenster::menüsBauen() {
+    m_dateiMenü = menuBar()->addMenu(QString());
+    const auto dateiAktion = [this](const char* text, const std::function<void()>& f) {
+        QAction* a = m_dateiMenü->addAction(QString(), this, f);
+        m_dateiAktionen.emplace_back(a, text);
+    };
+    dateiAktion("Neue Demo-Datenbank...", [this] { demoDatenbankAnlegen(); });
+    m_dateiMenü->addSeparator();
+    dateiAktion("Beenden", [this] { close(); });
+
+    m_befehlsMenü = menuBar()->addMenu(QString());
+    vemo0100Modul15a& k = m_komponente;
+    m_befehle = {
+        {"Daten empfangen", [&k] { k.DatenEmpfangen(); }},
+        {"Einlesedaten", [&k] { k.EinleseDaten(); }},
+        {"Einlesen aus Datei", [&k] { k.EinlesenAusDatei(); }},
+        {"Datenlogger", [&k] { k.DatenLogger(); }},
+        {"Daten importieren", [&k] { k.DatenImportieren(); }},
+        {"Einstellung ZEMAK 3710", [&k] { k.EinstellungZemak3710(); }},
+        {"Textbreite messen",
+         [this, &k] {
+             const QString t = QInputDialog::getText(this, xText("Textbreite messen"), xText("Text"));
+             qint32 breite = 0;
+             k.vmxTextWidth(t, breite);
+             statusBar()->showMessage(QString("%1: %2").arg(t).arg(breite));
+         }},
+    };
+    for (Befehl& b : m_befehle) {
+        const auto ausführen = b.ausführen;
+        b.aktion = m_befehlsMenü->addAction(QString(), this, [this, ausführen] { befehl(ausführen); });
+    }
+}
+
+void Hauptfenster::beschriften() {
+    setWindowTitle("vemotrix - " + m_komponente.PrüfgeräteTypID().toString());
+    for (QLabel* l : m_beschriftungen)
+        l->setText(xText(l->property("deutsch").toString() + ":"));
+    m_dateiMenü->setTitle(xText("Datei"));
+    for (auto& [aktion, text] : m_dateiAktionen)
+        aktion->setText(xText(text));
+    m_befehlsMenü->setTitle(xText("Messungen"));
+    for (Befehl& b : m_befehle)
+        b.aktion->setText(xText(b.text));
+    m_übersicht->beschriften();
+}
+
+// Runs a public method, then shows what it changed.
+void Hauptfenster::befehl(const std::function<void()>& ausführen) {
+    eigenschaftenÜbernehmen();
+    ausführen();
+    m_übersicht->aktualisieren();
+}
+
+void Hauptfenster::datenbankSetzen(const QString& pfad) {
+    m_komponente.setVemotrixDBName(pfad);
+    if (!m_komponente.vemotrixDB().istOffen())
+        return;
+    m_datenbank->setText(pfad);
+    merken("Datenbank", pfad);
+    if (m_backup->text().isEmpty()) {
+        m_backup->setText(modul().Datenbankverzeichnis);
+        eigenschaftenÜbernehmen();
+    }
+    spracheSetzen(m_komponente.Sprache().isEmpty() ? QString("Deutsch") : m_komponente.Sprache());
+}
+
+void Hauptfenster::spracheSetzen(const QString& sprache) {
+    if (m_komponente.vemotrixDB().istOffen())
+        m_komponente.setSprache(sprache);
+    const QString gilt = modul().sprachen.Sprache();
+    m_sprache->setCurrentIndex(std::max(0, int(SprachenListe.indexOf(gilt))));
+    merken("Sprache", gilt);
+    beschriften();
+    m_übersicht->aktualisieren();
+}
+
+void Hauptfenster::eigenschaftenÜbernehmen() {
+    bool istNummer = false;
+    const int port = m_port->text().toInt(&istNummer);
+    m_komponente.setCommPort(istNummer ? port : 0);
+    modul().portPfad = istNummer ? QString() : m_port->text().trimmed();
+    m_komponente.setPrüfgeräteTypID(m_typ->currentData());
+    m_komponente.setBackupVerzeichnis(m_backup->text());
+    merken("Port", m_port->text());
+    merken("Typ", m_typ->currentData().toString());
+    merken("Backup", m_backup->text());
+}
+
+void Hauptfenster::merken(const QString& schlüssel, const QString& wert) {
+    m_einstellungen.SaveSetting(Abschnitt, schlüssel, wert);
+}
+
+QString Hauptfenster::gemerkt(const QString& schlüssel, const QString& vorgabe) const {
+    return m_einstellungen.GetSetting(Abschnitt, schlüssel, vorgabe);
+}
+
+void Hauptfenster::demoDatenbankAnlegen() {
+    const QString pfad =
+        QFileDialog::getSaveFileName(this, xText("Neue Demo-Datenbank..."), QString(), "vemotrix (*.db)");
+    if (pfad.isEmpty())
+        return;
+    const bool angelegt = mitFalle([&] { datenbankAnlegen(pfad, true); });
+    if (angelegt)
+        datenbankSetzen(pfad);
+}

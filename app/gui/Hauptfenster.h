@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <vector>
+
+class QComboBox;
+class QLineEdit;
+class QLabel;
+class QMenu;
+class QAction;
+class Uebersicht;
+class vemo0100Modul15a;
+
+namespace vemo {
+class SettingsStore;
+}
+
+// The small host application: it creates the component, lets the user set its properties and
+// offers each public method as a menu command; what arrived where shows in the overview.
+class Hauptfenster : public QMainWindow {
+    Q_OBJECT
+public:
+    Hauptfenster(vemo0100Modul15a& komponente, vemo::SettingsStore& einstellungen);
+
+private:
+    struct Befehl {
+        QString text;
+        std::function<void()> ausführen;
+        QAction* aktion = nullptr;
+    };
+
+    QWidget* eigenschaftenBauen();
+    void menüsBauen();
+    void beschriften();
+    void befehl(const std::function<void()>& ausführen);
+    void datenbankSetzen(const QString& pfad);
+    void spracheSetzen(const QString& sprache);
+    void eigenschaftenÜbernehmen();
+    void merken(const QString& schlüssel, const QString& wert);
+    QString gemerkt(const QString& schlüssel, const QString& vorgabe = {}) const;
+    void demoDatenbankAnlegen();
+
+    vemo0100Modul15a& m_komponente;
+    vemo::SettingsStore& m_einstellungen;
+    QLineEdit* m_datenbank;
+    QComboBox* m_sprache;
+    QLineEdit* m_port;
+    QComboBox* m_typ;
+    QLineEdit* m_backup;
+    std::vector<QLabel*> m_beschriftungen;
+    QMenu* m_dateiMenü;
+    QMenu* m_befehlsMenü;
+    std::vector<Befehl> m_befehle;
+    std::vector<std::pair<QAction*, QString>> m_dateiAktionen;
+    Uebersicht* m_übersicht;
+};

@@ -1,0 +1,170 @@
+#include "Uebersicht.h"
+
+#include "host/ModulState.h"
+#include "store/Recordset.h"
+#include "store/Variant.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QSplitter>
+#include <QTableWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+using namespace vemo;
+
+namespace {
+
+enum Rolle { Ebene = Qt::UserRole, Schlüssel };
+
+// One level of the inspection hierarchy: how its rows are found under the parent and labelled.
+struct Stufe {
+    const char* abfrage; // the parent's key is appended
+    const char* schlüssel;
+    std::function<QString(const Recordset&)> beschriftung;
+};
+
+QString codeNrName(const Recordset& rs) {
+    return (rs.Text("Code") + " " + rs.Text("Nr") + " " + rs.Text("Name")).simplified();
+}
+
+const std::vector<Stufe>& stufen() {
+    static const std::vector<Stufe> s{
+        {"SELECT * FROM Kunde ORDER BY Name", "KundeID",
+         [](const Recordset& rs) { return (rs.Text("Nummernkreis") + " " + rs.Text("Name")).trimmed(); }},
+        {"SELECT * FROM 0100_Anlage WHERE KundeID = ", "AnlageID", codeNrName},
+        {"SELECT * FROM 0100_Prüfung WHERE AnlagenID = ", "PrüfungID",
+         [](const Recordset& rs) {
+             return rs.Text("Datum") + "  " + rs.Text("ProtokollNr") + "  " + rs.Text("PrüfgerätName1");
+         }},
+        {"SELECT * FROM 0100_Verteiler WHERE PrüfungID = ", "VerteilerID", codeNrName},
+        {"SELECT * FROM 0100_Stromkreis WHERE VerteilerID = ", "StromkreisID", codeNrName},
+    };
+    return s;
+}
+
+const QStringList Kopfspalten{"Datum", "Uhrzeit", "Funktion", "Messwert", "Einheit"};
+
+} // namespace
+
+Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
+    m_baum = new QTreeWidget;
+    m_baum->setHeaderHidden(true);
+    m_messungen = new QTableWidget;
+    m_messungen->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_messungen->verticalHeader()->setVisible(false);
+    m_kopf = new QLabel;
+    auto* rechts = new QWidget;
+    auto* rl = new QVBoxLayout(rechts);
+    rl->setContentsMargins(0, 0, 0, 0);
+    rl->addWidget(m_kopf);
+    rl->addWidget(m_messungen);
+    auto* teiler = new QSplitter;
+    teiler->addWidget(m_baum);
+    teiler->addWidget(rechts);
+    teiler->setStretchFactor(1, 2);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(teiler);
+    connect(m_baum, &QTreeWidget::itemExpanded, this, &Uebersicht::zweigFüllen);
+    connect(m_baum, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* k, QTreeWidgetItem*) { messungenZeigen(k); });
+    beschriften();
+}
+
+void Uebersicht::beschriften() {
+    m_kopf->setText(xText("Messungen") + " / " + xText("Grenzwerte"));
+}
+
+void Uebersicht::aktualisieren() {
+    m_baum->clear();
+    m_messungen->clear();
+    m_messungen->setRowCount(0);
+    m_messungen->setColumnCount(0);
+    if (!db().istOffen())
+        return;
+    mitFalle([this] {
+        Recordset rs = db().OpenRecordset(stufen()[0].abfrage);
+        for (; !rs.Eof(); rs.MoveNext()) {
+            auto* k = new QTreeWidgetItem(m_baum, {stufen()[0].beschriftung(rs)});
+            k->setData(0, Ebene, 0);
+            k->setData(0, Schlüssel, rs.Field("KundeID"));
+            k->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+        }
+    });
+}
+
+void Uebersicht::zweigFüllen(QTreeWidgetItem* knoten) {
+    const int ebene = knoten->data(0, Ebene).toInt() + 1;
+    if (knoten->childCount() > 0 || ebene >= int(stufen().size()))
+        return;
+    const Stufe& s = stufen()[size_t(ebene)];
+    mitFalle([&] {
+        Recordset rs = db().OpenRecordset(s.abfrage + text(knoten->data(0, Schlüssel)) + " ORDER BY 1");
+        for (; !rs.Eof(); rs.MoveNext()) {
+            auto* k = new QTreeWidgetItem(knoten, {s.beschriftung(rs)});
+            k->setData(0, Ebene, ebene);
+            k->setData(0, Schlüssel, rs.Field(s.schlüssel));
+            if (ebene + 1 < int(stufen().size()))
+                k->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+        }
+    });
+    knoten->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
+}
+
+void Uebersicht::messungenZeigen(QTreeWidgetItem* knoten) {
+    m_messungen->clear();
+    m_messungen->setRowCount(0);
+    m_messungen->setColumnCount(0);
+    if (!knoten || knoten->data(0, Ebene).toInt() != int(stufen().size()) - 1)
+        return;
+    mitFalle([&] {
+        struct Zeile {
+            QStringList kopf;
+            QMap<QString, QString> wert, grenze;
+        };
+        std::vector<Zeile> zeilen;
+        QStringList spalten; // the value columns that hold anything, in table order
+        Recordset mess = db().OpenRecordset("SELECT * FROM 0100_Messung WHERE StromkreisID = " +
+                                            text(knoten->data(0, Schlüssel)) + " ORDER BY MessID");
+        for (; !mess.Eof(); mess.MoveNext()) {
+            const Recordset grenz =
+                db().OpenRecordset("SELECT * FROM 0100_Grenzwert WHERE MessID = " + mess.Text("MessID"));
+            Zeile z;
+            for (const QString& k : Kopfspalten)
+                z.kopf << mess.Text(k);
+            for (int i = 0; i < mess.FieldCount(); ++i) {
+                const QString name = mess.FieldName(i);
+                if (name == "MessID" || name == "StromkreisID" || Kopfspalten.contains(name))
+                    continue;
+                z.wert[name] = mess.Text(name);
+                if (!grenz.Eof() && grenz.FieldIndex(name) >= 0)
+                    z.grenze[name] = grenz.Text(name);
+                if ((!z.wert[name].isEmpty() || !z.grenze[name].isEmpty()) && !spalten.contains(name))
+                    spalten << name;
+            }
+            zeilen.push_back(z);
+        }
+        QStringList köpfe;
+        for (const QString& k : Kopfspalten)
+            köpfe << xText(k);
+        for (const QString& w : spalten)
+            köpfe << w << w + " " + xText("Grenzwert");
+        m_messungen->setColumnCount(int(köpfe.size()));
+        m_messungen->setHorizontalHeaderLabels(köpfe);
+        m_messungen->setRowCount(int(zeilen.size()));
+        for (int r = 0; r < int(zeilen.size()); ++r) {
+            const Zeile& z = zeilen[size_t(r)];
+            int c = 0;
+            for (const QString& t : z.kopf)
+                m_messungen->setItem(r, c++, new QTableWidgetItem(t));
+            for (const QString& w : spalten) {
+                m_messungen->setItem(r, c++, new QTableWidgetItem(z.wert.value(w)));
+                auto* grenze = new QTableWidgetItem(z.grenze.value(w));
+                grenze->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
+                m_messungen->setItem(r, c++, grenze);
+            }
+        }
+        m_messungen->resizeColumnsToContents();
+    });
+}
