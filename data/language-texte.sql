@@ -1,0 +1,172 @@
+-- The fixed texts of the component and of the host program, each with its English translation.
+-- Captions that end in ":" or "..." are looked up without that ending, so they stand here without
+-- it. A text whose German wording differs from its key names it in the column Deutsch; all others
+-- take the key as their German text (see the end of this file).
+
+-- Messages and captions of the transfer and the read-in.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Es sind keine Eilnlesedaten vorhanden', 'There is no read-in data'),
+  ('Datenübertragung abgebrochen', 'Data transfer aborted'),
+  ('Messungen', 'Measurements'),
+  ('Serielle Datenübertragung', 'Serial data transfer'),
+  ('Datenübertragung Abbrechen', 'Abort data transfer'),
+  ('Datenübertragung läuft', 'Data transfer in progress'),
+  ('RS232-Taste am Corvex drücken ', 'Press the RS232 key on the Corvex '),
+  ('Senden-Taste am Prüfgerät drücken ', 'Press the send key on the instrument '),
+  ('&Abbruch', '&Abort'),
+  ('Abbruch in', 'Abort in'),
+  ('Baudrate', 'Baud rate'),
+  ('Identifikation', 'Identification'),
+  ('Gerät nicht bereit !', 'Instrument not ready !'),
+  ('Gerät bereit !', 'Instrument ready !'),
+  ('Hinweis', 'Note'),
+  ('Zustand', 'State'),
+  ('gefunden', 'found'),
+  ('Messungen werden übertragen. Bitte warten!', 'Measurements are being transferred. Please wait!'),
+  ('keine Daten vorhanden !', 'no data available !'),
+  ('Suche ZEMAK Prüfgerät an COM-Port', 'Searching for ZEMAK instrument on COM port'),
+  ('Suche ZEMAK 3710B Prüfgerät an COM-Port', 'Searching for ZEMAK 3710B instrument on COM port'),
+  ('Suche ZEMAK 3720 Prüfgerät an COM-Port', 'Searching for ZEMAK 3720 instrument on COM port'),
+  ('Suche Prüfgerät an COM-Port', 'Searching for instrument on COM port'),
+  ('Alle Messleitungen vom 3710 entfernen.', 'Remove all test leads from the 3710.'),
+  ('Alle Messleitungen vom 3710 B entfernen.', 'Remove all test leads from the 3710 B.'),
+  ('Alle Messleitungen vom 3720 entfernen.', 'Remove all test leads from the 3720.'),
+  ('Alle Messleitungen am Prüfgerät entfernen.', 'Remove all test leads from the instrument.'),
+  ('Messdaten Kopf fehlt', 'Measurement data header missing'),
+  ('Unbekanntes Prüfgerät', 'Unknown instrument'),
+  ('Ihr Treiber ist nicht aktuell', 'Your driver is out of date'),
+  ('Version', 'Version');
+
+-- Instrument names given to new instrument records.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('0100-Corvex', '0100-Corvex'),
+  ('0100-Varitron', '0100-Varitron'),
+  ('0100-KONTAlex', '0100-KONTAlex'),
+  ('0100-PRAVITonix', '0100-PRAVITonix'),
+  ('GEORIN-Btest', 'GEORIN-Btest'),
+  ('VOLTIra 9KV', 'VOLTIra 9KV'),
+  ('Ser. Nr.', 'Serial No.'),
+  ('Inv. Nr.', 'Inventory No.');
+
+-- Instrument settings.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Einstellungen', 'Settings'),
+  ('Prüfgerät', 'Instrument'),
+  ('Computer', 'Computer'),
+  ('keine Verbindung', 'no connection'),
+  ('ID', 'ID'),
+  ('ID an Prüfgerät senden', 'Send ID to the instrument'),
+  ('Datum und Uhrzeit an Prüfgerät senden', 'Send date and time to the instrument'),
+  ('Prüfgerätespeicher löschen', 'Clear instrument memory'),
+  ('Sicher Prüfgerätespeicher?', 'Really clear the instrument memory?');
+
+-- The read-in grid, its editing and the take-over.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Einlesedaten', 'Read-in data'),
+  ('Nr.', 'No.'),
+  ('Kunde', 'Customer'),
+  ('Anlage', 'Installation'),
+  ('Prüfung', 'Inspection'),
+  ('Verteiler', 'Distribution board'),
+  ('Stromkreis', 'Circuit'),
+  ('Messzeitpunkt', 'Time of measurement'),
+  ('Daten übernehmen', 'Take over data'),
+  ('Zeile löschen', 'Delete row'),
+  ('Schließen', 'Close'),
+  ('Edit results', 'Edit results'),
+  ('&Bearbeiten', '&Edit'),
+  ('Zuordnung ändern', 'Change assignment'),
+  ('keine Anlage', 'no installation'),
+  (' keine Anlage', ' no installation'),
+  ('keine Prüfung', 'no inspection'),
+  ('Anzahl der Markiertenzeilen', 'Number of selected rows'),
+  ('von', 'of'),
+  ('Sicher Löschen', 'Really delete?'),
+  ('Löschen von Datensatz', 'Delete record'),
+  ('FI-Analyse', 'RCD analysis'),
+  ('Datum', 'Date'),
+  ('Uhrzeit', 'Time'),
+  ('Rechts', 'Clockwise'),
+  ('Links', 'Anticlockwise'),
+  ('Unbekannte TeilFunktion', 'Unknown sub-function'),
+  ('Fehler bei RCD AUTO', 'Error in RCD AUTO series'),
+  ('Eingelesene Messungen Zuordnen zu ', 'Assign read-in measurements to '),
+  ('Weiter', 'Next'),
+  ('Messungen Zuordnen Hilfe', 'Help on assigning measurements'),
+  ('Daten Pool', 'Data pool'),
+  ('Es gibt nur ein Hauptverteiler', 'There is only one main distribution board'),
+  ('Wie werden die Messungen', 'How are the measurements'),
+  ('Wie werden die Stromkreise', 'How are the circuits'),
+  ('Alle Messungen einem Auftraggeber zuordnen', 'Assign all measurements to one client'),
+  ('Alle Stromkreise einem Auftraggeber zuordnen', 'Assign all circuits to one client'),
+  ('Bestimmte Messungen einem Auftraggeber zuordnen', 'Assign selected measurements to one client'),
+  ('Bestimmte Stromkreise einem Auftraggeber zuordnen', 'Assign selected circuits to one client'),
+  ('Daten Logger', 'Data logger'),
+  ('Zuvor einen Auftraggeber', 'First a client'),
+  ('Zuvor eine Anlage', 'First an installation');
+
+-- The legacy import.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Import von 0100 Corvex-Manager Daten', 'Import of 0100 Corvex-Manager data'),
+  ('Ändern', 'Change'),
+  ('Konvertieren', 'Convert'),
+  ('Abbrechen', 'Cancel'),
+  ('Import Hilfe', 'Import help'),
+  ('Datenquelle', 'Data source'),
+  ('Importieren erfolgreich beendet', 'Import completed successfully'),
+  ('Beim Importieren sind Fehler aufgetreten.', 'Errors occurred during the import.');
+
+-- Captions of the host program.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Datenbank', 'Database'),
+  ('Sprache', 'Language'),
+  ('Schnittstelle', 'Interface'),
+  ('Gerätetyp', 'Instrument type'),
+  ('Sicherungsverzeichnis', 'Backup folder'),
+  ('Datei', 'File'),
+  ('Beenden', 'Exit'),
+  ('Daten empfangen', 'Receive data'),
+  ('Einlesen aus Datei', 'Read from file'),
+  ('Datenlogger', 'Data logger'),
+  ('Daten importieren', 'Import data'),
+  ('Einstellung ZEMAK 3710', 'ZEMAK 3710 settings'),
+  ('Textbreite messen', 'Measure text width'),
+  ('Kunden', 'Customers'),
+  ('Anlagen', 'Installations'),
+  ('Prüfungen', 'Inspections'),
+  ('Stromkreise', 'Circuits'),
+  ('Grenzwerte', 'Limit values');
+
+-- Keys that name a text rather than being it: the German wording stands in Deutsch.
+INSERT INTO Sprache (TextID, Deutsch, "English (United Kingdom)") VALUES
+  ('Grund1', 'Neuanlage', 'New installation'),
+  ('Grund2', 'Erweiterung', 'Addition'),
+  ('Grund3', 'Änderung', 'Alteration'),
+  ('Grund4', 'Wiederholungsprüfung', 'Periodic inspection'),
+  ('Speicherfehler3710B',
+   'Der Speicher des Prüfgeräts 3710B enthält ungültige Messungen. Sie werden ohne Messwerte eingelesen.',
+   'The memory of the 3710B instrument holds invalid measurements. They are read in without values.'),
+  ('activateCodeSplitting3720', 'Codeaufteilung einschalten', 'Activate code splitting'),
+  ('EinlesedatenHilfetext',
+   'Jede Zeile ist eine eingelesene Messung. Schwarz: Kunde, Anlage, Prüfung, Verteiler oder Stromkreis '
+   || 'ist vorhanden. Blaugrün und fett: wird bei der Übernahme neu angelegt. Rot "???": fehlt noch. '
+   || 'Doppelklick oder rechte Maustaste auf einer Zelle öffnet die Auswahl; die Wahl gilt für alle '
+   || 'markierten Zeilen mit demselben übergeordneten Eintrag. "Daten übernehmen" überträgt alle Zeilen '
+   || 'mit Kunde, Anlage, Verteiler und Stromkreis in die Prüfprotokolle; die übrigen bleiben stehen.',
+   'Each row is one measurement read in. Black: the customer, installation, inspection, board or circuit '
+   || 'exists. Teal and bold: it will be created by the take-over. Red "???": still missing. Double-click '
+   || 'or right-click a cell to choose; the choice applies to all selected rows under the same parent. '
+   || '"Take over data" moves every row with customer, installation, board and circuit into the '
+   || 'inspection records; the others stay in the list.'),
+  ('VOLTAGE', 'Spannung', 'Voltage'),
+  ('INSULATION RESISTANCE', 'Isolationswiderstand', 'Insulation resistance'),
+  ('DIAGNISTIC TEST', 'Diagnosetest', 'Diagnostic test'),
+  ('STEP VOLTAGE', 'Stufenspannung', 'Step voltage'),
+  ('WITHSTANDING VOLTAGE DC', 'Spannungsfestigkeit DC', 'Withstanding voltage DC'),
+  ('HARMONICS VOLTAGE', 'Oberschwingungen Spannung', 'Voltage harmonics'),
+  ('HARMONICS CURRENT CLAMP', 'Oberschwingungen Stromzange', 'Current clamp harmonics'),
+  ('Zeit', 'Zeit', 'Time'),
+  ('Spannung', 'Spannung', 'Voltage');
+
+UPDATE Sprache SET Deutsch = TextID WHERE Deutsch IS NULL;
+UPDATE Sprache SET "Deutsch (&Deutschland)" = Deutsch, "Deutsch (&Österreich)" = Deutsch;

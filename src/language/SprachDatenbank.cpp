@@ -1,0 +1,33 @@
+#include "language/SprachDatenbank.h"
+
+#include "host/ModulState.h"
+#include "store/Datenbank.h"
+#include "store/Schema.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace vemo {
+
+void spracheDatenbankAnlegen(const QString& verzeichnis) {
+    const QString pfad = QDir(verzeichnis).filePath(sprachdatenbank::DateiName);
+    for (const QString& rest : {QString(), QString("-wal"), QString("-shm")})
+        QFile::remove(pfad + rest);
+    const Datenbank db = Datenbank::anlegen(pfad);
+    skripteAusführen(db, "language-*.sql");
+    db.abfrageSpeichern("Suchen", "PARAMETERS paraDeutsch Text;\n"
+                                  "SELECT * FROM Sprache WHERE TextID = [paraDeutsch];");
+}
+
+void spracheEinstellen(const QString& sprache) {
+    Sprachen& sprachen = modul().sprachen;
+    sprachen.setVerzeichnisDatenbank(modul().Datenbankverzeichnis);
+    sprachen.setNameDatenbank(sprachdatenbank::DateiName);
+    sprachen.setPasswort(sprachdatenbank::Passwort);
+    if (mitFalle([&] { sprachen.DatenbankZuweisen(); }))
+        sprachen.spracheWählen(sprache);
+    else
+        sprachen.setSprache(sprache);
+}
+
+} // namespace vemo

@@ -1,0 +1,129 @@
+#include "Sprachumgebung.h"
+
+#include "store/Recordset.h"
+
+namespace vemo::test {
+namespace {
+
+using SprachenTest = Sprachumgebung;
+
+TEST_F(SprachenTest, EndungenBleibenHinterDerÜbersetzung) {
+    EXPECT_EQ(m_sprachen.xText("Zustand:"), "State:");
+    EXPECT_EQ(m_sprachen.xText("Identifikation..."), "Identification...");
+    EXPECT_EQ(m_sprachen.xText("Zustand"), "State");
+    EXPECT_EQ(m_sprachen.xText("zustand"), "State"); // the key compares without regard to case
+    EXPECT_EQ(m_sprachen.xText("Zustand", Deutschland), "Zustand");
+    EXPECT_EQ(m_sprachen.xText(""), "");
+
+    // "..." alone is a text of its own, not an ending.
+    spracheSql("INSERT INTO Sprache (TextID, \"English (United Kingdom)\") VALUES ('...', 'more')");
+    EXPECT_EQ(m_sprachen.xText("..."), "more");
+    EXPECT_EQ(zeilenMitSchlüssel(""), 0);
+}
+
+TEST_F(SprachenTest, LeereÜbersetzungZeigtXxx) {
+    spracheSql(
+        "INSERT INTO Sprache (TextID, \"English (United Kingdom)\") VALUES ('Ohne', NULL), ('Blank', '   ')");
+    EXPECT_EQ(m_sprachen.xText("Ohne"), "xxx");
+    EXPECT_EQ(m_sprachen.xText("Ohne:"), "xxx");
+    EXPECT_EQ(m_sprachen.xText("Blank..."), "xxx");
+    EXPECT_EQ(zeilenMitSchlüssel("Ohne"), 1); // a known text is never added again
+}
+
+TEST_F(SprachenTest, NeuerTextWirdEinmalAufgenommen) {
+    m_sprachen.setVersion("2.5");
+    EXPECT_EQ(m_sprachen.xText("Messwerte prüfen:"), "Messwerte prüfen:");
+    ASSERT_EQ(zeilenMitSchlüssel("Messwerte prüfen"), 1);
+    const QString zeile = "SELECT [Deutsch (&Deutschland)] & '|' & [Deutsch (&Österreich)] & '|' & "
+                          "[English (United Kingdom)] & '|' & Deutsch & '|' & VersionID FROM Sprache "
+                          "WHERE TextID = 'Messwerte prüfen'";
+    EXPECT_EQ(spracheWert(zeile), "Messwerte prüfen|Messwerte prüfen|||2.5");
+
+    // Found from now on: the other languages have no translation yet, German has the text.
+    EXPECT_EQ(m_sprachen.xText("Messwerte prüfen:"), "xxx");
+    EXPECT_EQ(m_sprachen.xText("Messwerte prüfen"), "xxx");
+    EXPECT_EQ(m_sprachen.xText("Messwerte prüfen:", Deutschland), "Messwerte prüfen:");
+    EXPECT_EQ(m_sprachen.xText("Messwerte prüfen", "Deutsch (&Österreich)"), "Messwerte prüfen");
+    EXPECT_EQ(zeilenMitSchlüssel("Messwerte prüfen"), 1);
+}
+
+TEST_F(SprachenTest, ZuLangerTextWirdGekürztUndJedesMalNeuAufgenommen) {
+    const QString lang = QString("Hinweis zur Prüfung ").repeated(15); // 300 characters
+    EXPECT_EQ(m_sprachen.xText(lang), lang);
+    const QString gekürzt = lang.left(255);
+    EXPECT_EQ(zeilenMitSchlüssel(gekürzt), 1);
+    EXPECT_EQ(
+        spracheWert("SELECT Len([Deutsch (&Deutschland)]) FROM Sprache WHERE TextID = '" + gekürzt + "'"),
+        "300");
+
+    // The full text never finds the cut key: each asking adds one more row.
+    EXPECT_EQ(m_sprachen.xText(lang), lang);
+    EXPECT_EQ(zeilenMitSchlüssel(gekürzt), 2);
+}
+
+TEST_F(SprachenTest, DoppeltesAnführungszeichenGibtLeerUndNimmtNichtsAuf) {
+    const QString vorher = spracheWert("SELECT Count(*) FROM Sprache");
+    EXPECT_EQ(m_sprachen.xText("Kabel 5\" lang"), "");
+    EXPECT_EQ(m_sprachen.xText("Sag \"Hallo\":"), "");
+    EXPECT_EQ(spracheWert("SELECT Count(*) FROM Sprache"), vorher);
+    // An apostrophe is no harm to the look-up.
+    EXPECT_EQ(m_sprachen.xText("Prüfer's Notiz"), "Prüfer's Notiz");
+    EXPECT_EQ(zeilenMitSchlüssel("Prüfer's Notiz"), 1);
+}
+
+TEST_F(SprachenTest, UnbekannteSpracheFälltAufDeutschZurück) {
+    m_sprachen.spracheWählen("Klingonisch");
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(m_ui.meldungen[0].text, "Sprache: Klingonisch\r\nnicht vorhanden. Deutsch wird eingestellt !");
+    EXPECT_EQ(m_ui.meldungen[0].titel, modul().anwendungstitel);
+    EXPECT_EQ(m_sprachen.Sprache(), "Deutsch");
+    EXPECT_EQ(m_sprachen.xText("Grund1"), "Neuanlage");
+
+    m_sprachen.spracheWählen(Englisch);
+    EXPECT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(m_sprachen.Sprache(), Englisch);
+
+    // A language asked for by name that the table lacks gives nothing, and adds nothing.
+    EXPECT_EQ(m_sprachen.xText("Kunde", "Klingonisch"), "");
+    EXPECT_EQ(zeilenMitSchlüssel("Kunde"), 1);
+}
+
+TEST_F(SprachenTest, OhneDatenbankWirdErklärtUndDeutschGesprochen) {
+    Sprachen ohne;
+    ohne.spracheWählen(Englisch);
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(m_ui.meldungen[0].text,
+              "Zuerst eine Datenbank zuweisen, sonst kann nicht geprüft werden,\r\n"
+              "ob die Sprache English (United Kingdom) vorhanden ist\r\n"
+              "Hierzu die Eigenschaften .VerzeichnisDatenbank und .NameDatenbank setz\r\n"
+              "Dann die Methode .DatenbankZuweisen starten");
+    EXPECT_EQ(m_ui.meldungen[0].titel, modul().anwendungstitel);
+    EXPECT_EQ(ohne.Sprache(), Englisch);
+    EXPECT_EQ(ohne.xText("Kunde:"), "Kunde:");
+    EXPECT_EQ(ohne.xTextReport("Kunde"), "Kunde");
+
+    // A directory that ends in its separator names the same file; a missing file assigns nothing.
+    ohne.setVerzeichnisDatenbank(m_dir.path() + "/");
+    ohne.setNameDatenbank("language.mdb");
+    ohne.DatenbankZuweisen();
+    EXPECT_EQ(ohne.xText("Kunde:"), "Customer:");
+    Sprachen fehlt;
+    fehlt.setVerzeichnisDatenbank(pfad("nirgends"));
+    fehlt.setNameDatenbank(sprachdatenbank::DateiName);
+    EXPECT_THROW(fehlt.DatenbankZuweisen(), Fehler);
+    EXPECT_FALSE(fehlt.hatDatenbank());
+}
+
+TEST_F(SprachenTest, BerichtUndStandardFügenNieEtwasHinzu) {
+    EXPECT_EQ(m_sprachen.xTextReport("Kunde"), "Customer");
+    EXPECT_EQ(m_sprachen.xTextReport("Kunde", Deutschland), "Kunde");
+    EXPECT_EQ(m_sprachen.xTextNurStandard("Grund4"), "Wiederholungsprüfung");
+    EXPECT_EQ(m_sprachen.xTextReport("Gibt es nicht"), "Gibt es nicht");
+    EXPECT_EQ(m_sprachen.xTextNurStandard("Gibt es nicht"), "Gibt es nicht");
+    EXPECT_EQ(zeilenMitSchlüssel("Gibt es nicht"), 0);
+    // The query takes the text as a parameter: quotes do no harm here.
+    EXPECT_EQ(m_sprachen.xTextReport("Kabel 5\" lang"), "Kabel 5\" lang");
+}
+
+} // namespace
+} // namespace vemo::test
