@@ -2,6 +2,7 @@
 
 #include "Sitzung.h"
 
+#include "language/SprachDatenbank.h"
 #include "store/Fehler.h"
 #include "store/Schema.h"
 
@@ -27,6 +28,7 @@ int initDb(const Optionen& o) {
     try {
         QDir().mkpath(QFileInfo(pfad).absolutePath());
         vemo::datenbankAnlegen(pfad, o.schalter("--demo"));
+        vemo::spracheDatenbankAnlegen(QFileInfo(pfad).absolutePath());
     } catch (const vemo::Fehler& f) {
         ausgeben("vemo0100: " + f.meldung());
         return 1;

@@ -17,7 +17,7 @@ Sitzung::Sitzung(const Optionen& o) : m_ui(o.ja) {
     k.setVemotrixDBName(o.db);
     if (!bereit())
         return;
-    k.setSprache(o.sprache.isEmpty() ? QString("Deutsch") : o.sprache);
+    k.setSprache(o.sprache.isEmpty() ? QString("Deutsch (&Deutschland)") : o.sprache);
     k.setBackupVerzeichnis(o.backup.isEmpty() ? QFileInfo(o.db).absolutePath() : o.backup);
     if (!o.replica.isEmpty())
         k.setVmxReplicaID(o.replica);

@@ -5,9 +5,12 @@
 #include "host/Geraetetypen.h"
 #include "host/Modul15a.h"
 #include "host/ModulState.h"
+#include "language/SprachDatenbank.h"
 #include "platform/SettingsStore.h"
 #include "platform/Ui.h"
 #include "store/Schema.h"
+
+#include <QFileInfo>
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -51,7 +54,7 @@ Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstell
     eigenschaftenÜbernehmen();
     if (const QString db = gemerkt("Datenbank"); !db.isEmpty())
         datenbankSetzen(db);
-    spracheSetzen(gemerkt("Sprache", "Deutsch"));
+    spracheSetzen(gemerkt("Sprache", "Deutsch (&Deutschland)"));
     resize(1100, 700);
 }
 
@@ -172,7 +175,8 @@ void Hauptfenster::datenbankSetzen(const QString& pfad) {
         m_backup->setText(modul().Datenbankverzeichnis);
         eigenschaftenÜbernehmen();
     }
-    spracheSetzen(m_komponente.Sprache().isEmpty() ? QString("Deutsch") : m_komponente.Sprache());
+    spracheSetzen(m_komponente.Sprache().isEmpty() ? QString("Deutsch (&Deutschland)")
+                                                   : m_komponente.Sprache());
 }
 
 void Hauptfenster::spracheSetzen(const QString& sprache) {
@@ -210,7 +214,10 @@ void Hauptfenster::demoDatenbankAnlegen() {
         QFileDialog::getSaveFileName(this, xText("Neue Demo-Datenbank..."), QString(), "vemotrix (*.db)");
     if (pfad.isEmpty())
         return;
-    const bool angelegt = mitFalle([&] { datenbankAnlegen(pfad, true); });
+    const bool angelegt = mitFalle([&] {
+        datenbankAnlegen(pfad, true);
+        spracheDatenbankAnlegen(QFileInfo(pfad).absolutePath());
+    });
     if (angelegt)
         datenbankSetzen(pfad);
 }

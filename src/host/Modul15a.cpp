@@ -4,6 +4,7 @@
 #include "host/ModulState.h"
 #include "host/Transfer.h"
 #include "host/Worttabellen.h"
+#include "language/SprachDatenbank.h"
 #include "platform/Ui.h"
 #include "store/Schluessel.h"
 
@@ -63,7 +64,7 @@ void vemo0100Modul15a::setSprache(const QString& sprache) {
     m_sprache = sprache;
     mitFalle([&] {
         worttabellenLaden();
-        modul().sprachen.setSprache(sprache);
+        spracheEinstellen(sprache);
     });
 }
 

@@ -3,6 +3,7 @@
 #include "host/Dateinummern.h"
 #include "host/Geraetetypen.h"
 #include "host/Modul15a.h"
+#include "language/SprachDatenbank.h"
 #include "store/Variant.h"
 #include "support/Testumgebung.h"
 
@@ -98,11 +99,13 @@ TEST_F(HostTest, PropertiesKeepTheirContract) {
     EXPECT_TRUE(istEmpty(k.ApplicationName()));
     EXPECT_EQ(k.PrüfgeräteTypID().toString(), "Prüfprogramm");
 
+    spracheDatenbankAnlegen(m_dir.path());
     k.setVemotrixDBName(m_dbPfad);
     EXPECT_TRUE(k.vemotrixDB().istOffen());
     EXPECT_EQ(QDir(modul().Datenbankverzeichnis), QDir(m_dir.path()));
-    k.setSprache("Deutsch");
-    EXPECT_EQ(k.Sprache(), "Deutsch");
+    k.setSprache("English (United Kingdom)");
+    EXPECT_EQ(k.Sprache(), "English (United Kingdom)");
+    EXPECT_EQ(xText("Messungen"), "Measurements");
     EXPECT_EQ(modul().mulTexte.value(7).left(24), "S: 255    FI-Analyse    ");
     EXPECT_EQ(m_settings.GetSetting("Application", "Directory"), modul().Datenbankverzeichnis);
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
@@ -112,7 +115,7 @@ TEST_F(HostTest, PropertiesKeepTheirContract) {
 
     k.EinleseDaten();
     ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_EQ(m_ui.meldungen[0].text, "Es sind keine Eilnlesedaten vorhanden");
+    EXPECT_EQ(m_ui.meldungen[0].text, "There is no read-in data"); // translated
     EXPECT_EQ(m_ui.meldungen[0].titel, "Prüfprogramm");
     EXPECT_TRUE(m_ui.dialoge.isEmpty());
 
