@@ -6,6 +6,7 @@
 #include "store/Variant.h"
 #include "store/Verbindung.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
 #include <climits>
@@ -18,6 +19,7 @@ namespace detail {
 struct Spalte {
     QString name;
     QString typ;
+    Typklasse klasse = Typklasse::Frei;
     int tabellenIndex = -1; // the column of the writable table it comes from
 };
 
@@ -41,6 +43,7 @@ struct RecordsetDaten {
     bool mitRowid = false;
     QVector<QVariant> parameter;
     QVector<Spalte> spalten;
+    QHash<QString, int> spaltenIndex; // by lower-case name
 
     std::vector<Zeile> zeilen;
     bool vollständig = false;
@@ -74,16 +77,15 @@ struct RecordsetDaten {
     }
 
     void seiteLaden() {
-        QString t = tabelle->name;
-        Schritt s(v->anweisung("SELECT rowid, * FROM \"" + t.replace('"', "\"\"") +
-                               "\" WHERE rowid > ?1 ORDER BY rowid LIMIT " + QString::number(Seitengröße)));
+        Schritt s(v->anweisung("SELECT rowid, * FROM " + tabelle->zitiert +
+                               " WHERE rowid > ?1 ORDER BY rowid LIMIT " + QString::number(Seitengröße)));
         s.binden(1, QVariant(qlonglong(letzteRowid)));
         int n = 0;
         while (s.weiter()) {
             Zeile z;
             z.rowid = s.wert(0).toLongLong();
             for (int i = 0; i < spalten.size(); ++i)
-                z.werte << s.wert(i + 1, spalten[i].typ);
+                z.werte << s.wert(i + 1, spalten[i].klasse);
             z.marke = markeFür(z.rowid);
             letzteRowid = z.rowid;
             zeilen.push_back(std::move(z));
@@ -110,7 +112,7 @@ struct RecordsetDaten {
             Zeile z;
             z.rowid = mitRowid ? s.wert(0).toLongLong() : 0;
             for (int i = 0; i < spalten.size(); ++i)
-                z.werte << s.wert(i + versatz, spalten[i].typ);
+                z.werte << s.wert(i + versatz, spalten[i].klasse);
             z.marke = nächsteMarke++;
             zeilen.push_back(std::move(z));
         }
@@ -139,22 +141,21 @@ struct RecordsetDaten {
     bool eof() { return pos >= 0 && !holen(pos); }
     bool leer() { return !holen(0); }
 
-    int index(const QString& feld) const {
+    void spaltenErfassen() {
         for (int i = 0; i < spalten.size(); ++i)
-            if (spalten[i].name.compare(feld, Qt::CaseInsensitive) == 0)
-                return i;
+            spaltenIndex.insert(spalten[i].name.toLower(), i);
+    }
+
+    int index(const QString& feld) const {
+        if (const auto it = spaltenIndex.constFind(feld.toLower()); it != spaltenIndex.cend())
+            return *it;
         // "[0100_Anlage].Code" and "Kunde.Name" name the column of a table.
         static const QRegularExpression klammern("[\\[\\]]");
-        const QString ohne = QString(feld).remove(klammern);
-        if (ohne != feld || ohne.contains('.')) {
-            for (int i = 0; i < spalten.size(); ++i)
-                if (spalten[i].name.compare(ohne, Qt::CaseInsensitive) == 0)
-                    return i;
-            const QString letzter = ohne.section('.', -1);
-            for (int i = 0; i < spalten.size(); ++i)
-                if (spalten[i].name.compare(letzter, Qt::CaseInsensitive) == 0)
-                    return i;
-        }
+        const QString ohne = QString(feld).remove(klammern).toLower();
+        if (const auto it = spaltenIndex.constFind(ohne); it != spaltenIndex.cend())
+            return *it;
+        if (const auto it = spaltenIndex.constFind(ohne.section('.', -1)); it != spaltenIndex.cend())
+            return *it;
         return -1;
     }
     int indexOderFehler(const QString& feld) const {
@@ -199,54 +200,40 @@ struct RecordsetDaten {
             throw fehler::mit(fehler::Schreibgeschützt, name);
     }
 
-    QString spaltenName(int i) const {
-        QString n = tabelle->spalten[spalten[i].tabellenIndex];
-        return "\"" + n.replace('"', "\"\"") + "\"";
-    }
-    QString tabellenName() const {
-        QString n = tabelle->name;
-        return "\"" + n.replace('"', "\"\"") + "\"";
-    }
+    const QString& spaltenName(int i) const { return tabelle->zitierteSpalten[spalten[i].tabellenIndex]; }
+    Typklasse klasse(int i) const { return tabelle->klassen[spalten[i].tabellenIndex]; }
 
-    // The row as the table now holds it, seen through this set's columns.
-    void neuLesen(Zeile& z) {
-        Schritt s(v->anweisung("SELECT * FROM " + tabellenName() + " WHERE rowid = ?1"));
-        s.binden(1, QVariant(qlonglong(z.rowid)));
-        if (!s.weiter())
-            return;
-        if (z.werte.size() != spalten.size())
-            z.werte = QVector<QVariant>(spalten.size(), nullWert());
-        for (int i = 0; i < spalten.size(); ++i) {
-            const int t = spalten[i].tabellenIndex;
-            if (t >= 0)
-                z.werte[i] = s.wert(t, tabelle->typen[t]);
-        }
-    }
-
-    void einfügen() {
-        QStringList namen, platz;
+    // The buffer's written columns as the table stores them; the cached row then equals the table's.
+    QVector<int> geschriebene() {
         QVector<int> welche;
         for (int i = 0; i < spalten.size(); ++i) {
             if (!gesetzt[i])
                 continue;
+            puffer[i] = spaltenwert(puffer[i], klasse(i));
             welche << i;
-            namen << spaltenName(i);
-            platz << "?" + QString::number(welche.size());
         }
-        const QString sql = namen.isEmpty() ? "INSERT INTO " + tabellenName() + " DEFAULT VALUES"
-                                            : "INSERT INTO " + tabellenName() + " (" + namen.join(',') +
+        return welche;
+    }
+
+    void einfügen() {
+        const QVector<int> welche = geschriebene();
+        QStringList namen, platz;
+        for (int i : welche) {
+            namen << spaltenName(i);
+            platz << "?" + QString::number(namen.size());
+        }
+        const QString sql = namen.isEmpty() ? "INSERT INTO " + tabelle->zitiert + " DEFAULT VALUES"
+                                            : "INSERT INTO " + tabelle->zitiert + " (" + namen.join(',') +
                                                   ") VALUES (" + platz.join(',') + ")";
         {
             Schritt s(v->anweisung(sql));
-            for (int k = 0; k < welche.size(); ++k) {
-                const int i = welche[k];
-                s.binden(k + 1, puffer[i], tabelle->typen[spalten[i].tabellenIndex]);
-            }
+            for (int k = 0; k < welche.size(); ++k)
+                s.binden(k + 1, puffer[welche[k]]);
             s.weiter();
         }
         Zeile z;
         z.rowid = sqlite3_last_insert_rowid(v->db());
-        neuLesen(z);
+        z.werte = puffer;
         if (vollständig) {
             z.marke = nächsteMarke++;
             letzteRowid = std::max(letzteRowid, z.rowid);
@@ -260,24 +247,19 @@ struct RecordsetDaten {
 
     void ändern() {
         Zeile& z = aktuelle();
-        QStringList zuweisungen;
-        QVector<int> welche;
-        for (int i = 0; i < spalten.size(); ++i) {
-            if (!gesetzt[i])
-                continue;
-            welche << i;
-            zuweisungen << spaltenName(i) + " = ?" + QString::number(welche.size());
-        }
+        const QVector<int> welche = geschriebene();
         if (!welche.isEmpty()) {
-            Schritt s(v->anweisung("UPDATE " + tabellenName() + " SET " + zuweisungen.join(", ") +
+            QStringList zuweisungen;
+            for (int i : welche)
+                zuweisungen << spaltenName(i) + " = ?" + QString::number(zuweisungen.size() + 1);
+            Schritt s(v->anweisung("UPDATE " + tabelle->zitiert + " SET " + zuweisungen.join(", ") +
                                    " WHERE rowid = ?" + QString::number(welche.size() + 1)));
-            for (int k = 0; k < welche.size(); ++k) {
-                const int i = welche[k];
-                s.binden(k + 1, puffer[i], tabelle->typen[spalten[i].tabellenIndex]);
-            }
-            s.binden(welche.size() + 1, QVariant(qlonglong(z.rowid)));
+            for (int k = 0; k < welche.size(); ++k)
+                s.binden(k + 1, puffer[welche[k]]);
+            s.binden(int(welche.size()) + 1, QVariant(qlonglong(z.rowid)));
             s.weiter();
-            neuLesen(z);
+            for (int i : welche)
+                z.werte[i] = puffer[i];
         }
         zuletztGeändert = z.marke;
     }
@@ -434,7 +416,13 @@ Bookmark Recordset::bookmark() const {
 void Recordset::setBookmark(Bookmark marke) {
     auto& x = d();
     x.modus = RecordsetDaten::Modus::Keiner;
-    for (long i = 0; x.holen(i); ++i) {
+    const bool nochNichtGeladen =
+        std::any_of(x.vorgemerkt.begin(), x.vorgemerkt.end(),
+                    [marke](const auto& eintrag) { return eintrag.second == marke; });
+    if (nochNichtGeladen)
+        x.allesLaden(); // a row added here that paging has not reached yet
+    // Rows added or changed last are what a bookmark is wanted for most: search from the end.
+    for (long i = x.anzahlGeladen() - 1; i >= 0; --i) {
         if (x.zeilen[size_t(i)].marke == marke) {
             x.pos = i;
             x.nachLöschen = false;
@@ -492,8 +480,9 @@ void Recordset::AddNew() {
     auto& x = d();
     x.beschreibbarPrüfen();
     x.puffer.clear();
+    const QVector<QVariant> vorgaben = x.v->vorgabenJetzt(*x.tabelle);
     for (const auto& s : std::as_const(x.spalten))
-        x.puffer << (s.tabellenIndex >= 0 ? x.tabelle->vorgaben[s.tabellenIndex] : nullWert());
+        x.puffer << (s.tabellenIndex >= 0 ? vorgaben[s.tabellenIndex] : nullWert());
     x.gesetzt = QVector<bool>(x.spalten.size(), false);
     x.modus = RecordsetDaten::Modus::Neu;
 }
@@ -528,7 +517,7 @@ void Recordset::Delete() {
     x.modus = RecordsetDaten::Modus::Keiner;
     const detail::Zeile& z = x.aktuelle();
     {
-        detail::Schritt s(x.v->anweisung("DELETE FROM " + x.tabellenName() + " WHERE rowid = ?1"));
+        detail::Schritt s(x.v->anweisung("DELETE FROM " + x.tabelle->zitiert + " WHERE rowid = ?1"));
         s.binden(1, QVariant(qlonglong(z.rowid)));
         s.weiter();
     }
@@ -573,7 +562,8 @@ std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>
     d->seitenweise = true;
     d->tabelle = t;
     for (int i = 0; i < t->spalten.size(); ++i)
-        d->spalten.push_back({t->spalten[i], t->typen[i], i});
+        d->spalten.push_back({t->spalten[i], t->typen[i], t->klassen[i], i});
+    d->spaltenErfassen();
     d->laden();
     return d;
 }
@@ -605,6 +595,7 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
         Spalte sp;
         sp.name = QString::fromUtf8(sqlite3_column_name(s, i));
         sp.typ = QString::fromUtf8(sqlite3_column_decltype(s, i));
+        sp.klasse = typklasse(sp.typ);
         if (const char* t = sqlite3_column_table_name(s, i); t && tabellenName.isEmpty())
             tabellenName = QString::fromUtf8(t);
         d->spalten.push_back(sp);
@@ -618,6 +609,7 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
                 d->spalten[i - versatz].tabellenIndex = d->tabelle->index(QString::fromUtf8(ursprung));
         }
     }
+    d->spaltenErfassen();
     d->laden();
     return d;
 }

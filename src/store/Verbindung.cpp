@@ -7,6 +7,7 @@
 #include <QDate>
 #include <QDateTime>
 #include <QFileInfo>
+#include <cmath>
 
 namespace vemo::detail {
 namespace {
@@ -71,14 +72,78 @@ void funktionenAnmelden(sqlite3* db) {
 
 } // namespace
 
-bool istDatumTyp(const QString& typ) {
-    return typ.startsWith("DATE", Qt::CaseInsensitive) || typ.startsWith("TIME", Qt::CaseInsensitive);
+Typklasse typklasse(const QString& deklariert) {
+    const QString t = deklariert.toUpper();
+    if (t.isEmpty())
+        return Typklasse::Frei;
+    if (t.startsWith("DATE") || t.startsWith("TIME"))
+        return Typklasse::Datum;
+    if (t.contains("INT") || t.startsWith("REAL") || t.startsWith("DOUBLE") || t.startsWith("FLOAT") ||
+        t.startsWith("NUMERIC") || t.startsWith("DECIMAL"))
+        return Typklasse::Zahl;
+    return Typklasse::Text;
 }
 
-bool istZahlTyp(const QString& typ) {
-    const QString t = typ.toUpper();
-    return t.contains("INT") || t.startsWith("REAL") || t.startsWith("DOUBLE") || t.startsWith("FLOAT") ||
-           t.startsWith("NUMERIC") || t.startsWith("DECIMAL");
+namespace {
+
+bool istZahlVariant(const QVariant& v) {
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QVariant alsZahl(const QVariant& wert) {
+    if (wert.typeId() == QMetaType::Bool)
+        return qlonglong(wert.toBool() ? -1 : 0);
+    if (istZahlVariant(wert))
+        return wert.typeId() == QMetaType::Double || wert.typeId() == QMetaType::Float
+                   ? QVariant(wert.toDouble())
+                   : QVariant(wert.toLongLong());
+    const auto z = zahlformat::zahl(wert.toString());
+    if (!z)
+        throw fehler::mit(fehler::TypenUnverträglich, wert.toString());
+    const double ganz = std::nearbyint(*z);
+    return ganz == *z && std::fabs(ganz) < 9e15 ? QVariant(qlonglong(ganz)) : QVariant(*z);
+}
+
+QVariant alsDatum(const QVariant& wert) {
+    if (wert.typeId() == QMetaType::QDate || wert.typeId() == QMetaType::QDateTime)
+        return wert;
+    const QString t = wert.toString().trimmed();
+    const auto d = zahlformat::datum(t);
+    if (!d)
+        throw fehler::mit(fehler::TypenUnverträglich, t);
+    const QTime zeit = QTime::fromString(t.section(' ', 1, 1), "H:mm:ss");
+    return zeit.isValid() ? QVariant(QDateTime(*d, zeit)) : QVariant(*d);
+}
+
+} // namespace
+
+QVariant spaltenwert(const QVariant& wert, Typklasse klasse) {
+    if (istLeer(wert))
+        return nullWert();
+    switch (klasse) {
+    case Typklasse::Zahl:
+        return alsZahl(wert);
+    case Typklasse::Datum:
+        return alsDatum(wert);
+    case Typklasse::Text:
+        return text(wert);
+    case Typklasse::Frei:
+        break;
+    }
+    return wert;
 }
 
 void sqliteFehler(sqlite3* db, int rc, const QString& sql) {
@@ -180,26 +245,43 @@ const Verbindung::Tabelle* Verbindung::tabelle(const QString& name) {
             t.name = s.wert(0).toString();
         }
     }
-    QStringList ausdrücke;
+    const auto zitiert = [](QString n) { return "\"" + n.replace('"', "\"\"") + "\""; };
+    t.zitiert = zitiert(t.name);
     {
-        QString n = t.name;
-        Schritt s(anweisung("PRAGMA table_info(\"" + n.replace('"', "\"\"") + "\")"));
+        Schritt s(anweisung("PRAGMA table_info(" + t.zitiert + ")"));
         while (s.weiter()) {
             t.spalten << s.wert(1).toString();
+            t.zitierteSpalten << zitiert(t.spalten.last());
             t.typen << s.wert(2).toString();
-            ausdrücke << s.wert(4).toString();
+            t.klassen << typklasse(t.typen.last());
+            t.berechneteVorgaben << s.wert(4).toString();
         }
     }
-    for (int i = 0; i < ausdrücke.size(); ++i) {
+    for (int i = 0; i < t.spalten.size(); ++i) {
         QVariant v = nullWert();
-        if (!ausdrücke[i].isEmpty()) {
-            Schritt s(anweisung("SELECT " + ausdrücke[i]));
+        if (!t.berechneteVorgaben[i].isEmpty()) {
+            Schritt s(anweisung("SELECT " + t.berechneteVorgaben[i]));
             if (s.weiter())
-                v = s.wert(0, t.typen[i]);
+                v = s.wert(0, t.klassen[i]);
         }
         t.vorgaben << v;
+        // Literal defaults keep their value; only an expression such as today's date is evaluated anew.
+        if (!t.berechneteVorgaben[i].startsWith('('))
+            t.berechneteVorgaben[i].clear();
     }
     return &*m_tabellen.insert(schlüssel, t);
+}
+
+QVector<QVariant> Verbindung::vorgabenJetzt(const Tabelle& t) {
+    QVector<QVariant> v = t.vorgaben;
+    for (int i = 0; i < t.spalten.size(); ++i) {
+        if (t.berechneteVorgaben[i].isEmpty())
+            continue;
+        Schritt s(anweisung("SELECT " + t.berechneteVorgaben[i]));
+        if (s.weiter())
+            v[i] = s.wert(0, t.klassen[i]);
+    }
+    return v;
 }
 
 void Verbindung::schemaGeändert() {
@@ -214,7 +296,7 @@ Schritt::~Schritt() {
     sqlite3_clear_bindings(m_s);
 }
 
-void Schritt::binden(int index, const QVariant& wert, const QString& typ) {
+void Schritt::binden(int index, const QVariant& wert) {
     if (istLeer(wert)) {
         sqlite3_bind_null(m_s, index);
         return;
@@ -233,44 +315,20 @@ void Schritt::binden(int index, const QVariant& wert, const QString& typ) {
         return;
     case QMetaType::Double:
     case QMetaType::Float:
-        if (!typ.isEmpty() && !istZahlTyp(typ) && !istDatumTyp(typ)) {
-            // A number written into a text column reads as the system writes numbers.
-            sqlite3_bind_text(m_s, index, zahlformat::text(wert.toDouble()).toUtf8().constData(), -1,
-                              SQLITE_TRANSIENT);
-            return;
-        }
         sqlite3_bind_double(m_s, index, wert.toDouble());
-        return;
-    case QMetaType::QDate:
-        sqlite3_bind_text(m_s, index, wert.toDate().toString(Qt::ISODate).toUtf8().constData(), -1,
-                          SQLITE_TRANSIENT);
-        return;
-    case QMetaType::QDateTime:
-        sqlite3_bind_text(m_s, index, wert.toDateTime().toString("yyyy-MM-dd HH:mm:ss").toUtf8().constData(),
-                          -1, SQLITE_TRANSIENT);
         return;
     default:
         break;
     }
-    const QString t = wert.toString();
-    if (istDatumTyp(typ)) {
-        const auto d = zahlformat::datum(t);
-        if (!d)
-            throw fehler::mit(fehler::TypenUnverträglich, t);
-        const QTime zeit = QTime::fromString(t.trimmed().section(' ', 1, 1), "H:mm:ss");
-        const QString iso =
-            zeit.isValid() ? QDateTime(*d, zeit).toString("yyyy-MM-dd HH:mm:ss") : d->toString(Qt::ISODate);
-        sqlite3_bind_text(m_s, index, iso.toUtf8().constData(), -1, SQLITE_TRANSIENT);
-        return;
-    }
-    if (istZahlTyp(typ)) {
-        const auto z = zahlformat::zahl(t);
-        if (!z)
-            throw fehler::mit(fehler::TypenUnverträglich, t);
-        sqlite3_bind_double(m_s, index, *z);
-        return;
-    }
-    sqlite3_bind_text(m_s, index, t.toUtf8().constData(), -1, SQLITE_TRANSIENT);
+    QString t;
+    if (wert.typeId() == QMetaType::QDate)
+        t = wert.toDate().toString(Qt::ISODate);
+    else if (wert.typeId() == QMetaType::QDateTime)
+        t = wert.toDateTime().toString("yyyy-MM-dd HH:mm:ss");
+    else
+        t = wert.toString();
+    const QByteArray b = t.toUtf8();
+    sqlite3_bind_text(m_s, index, b.constData(), int(b.size()), SQLITE_TRANSIENT);
 }
 
 bool Schritt::weiter() {
@@ -282,7 +340,7 @@ bool Schritt::weiter() {
     sqliteFehler(sqlite3_db_handle(m_s), rc, utf8(sqlite3_sql(m_s)));
 }
 
-QVariant Schritt::wert(int spalte, const QString& typ) const {
+QVariant Schritt::wert(int spalte, Typklasse klasse) const {
     switch (sqlite3_column_type(m_s, spalte)) {
     case SQLITE_NULL:
         return nullWert();
@@ -293,7 +351,7 @@ QVariant Schritt::wert(int spalte, const QString& typ) const {
     default: {
         const QString t = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(m_s, spalte)),
                                             sqlite3_column_bytes(m_s, spalte));
-        if (istDatumTyp(typ)) {
+        if (klasse == Typklasse::Datum) {
             if (t.size() > 10) {
                 const QDateTime dt = QDateTime::fromString(t, "yyyy-MM-dd HH:mm:ss");
                 if (dt.isValid())

@@ -9,6 +9,15 @@
 
 namespace vemo::detail {
 
+// What a column holds by its declared type: numbers, text, dates, or whatever comes (no type).
+enum class Typklasse { Frei, Text, Zahl, Datum };
+Typklasse typklasse(const QString& deklariert);
+
+// The value as a column of that class stores it: numbers in number columns, text in text columns
+// (a number written as the system writes numbers, a date as the user reads it), dates in date
+// columns. A value the column cannot take raises 13.
+QVariant spaltenwert(const QVariant& wert, Typklasse klasse);
+
 // One open SQLite connection with its prepared statements and what it knows of its tables.
 // Every statement is reset as soon as its rows are read, so that no statement stays open and each
 // write commits by itself.
@@ -20,10 +29,14 @@ public:
     Verbindung& operator=(const Verbindung&) = delete;
 
     struct Tabelle {
-        QString name; // as the schema spells it
+        QString name;    // as the schema spells it
+        QString zitiert; // ready for a statement
         QStringList spalten;
+        QStringList zitierteSpalten;
         QStringList typen;
-        QVector<QVariant> vorgaben; // the store's default of each column, evaluated
+        QVector<Typklasse> klassen;
+        QVector<QVariant> vorgaben;     // the store's default of each column, evaluated
+        QStringList berechneteVorgaben; // expressions such as today's date, evaluated at each new row
         int index(const QString& spalte) const;
     };
 
@@ -33,6 +46,8 @@ public:
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
     sqlite3_stmt* anweisung(const QString& sql);
     const Tabelle* tabelle(const QString& name);
+    // The defaults of a new row, with those that are computed evaluated now.
+    QVector<QVariant> vorgabenJetzt(const Tabelle& t);
     void schemaGeändert();
 
 private:
@@ -50,9 +65,9 @@ public:
     Schritt(const Schritt&) = delete;
     Schritt& operator=(const Schritt&) = delete;
 
-    void binden(int index, const QVariant& wert, const QString& typ = {});
+    void binden(int index, const QVariant& wert);
     bool weiter(); // true while a row stands; raises the store's error on failure
-    QVariant wert(int spalte, const QString& typ = {}) const;
+    QVariant wert(int spalte, Typklasse klasse = Typklasse::Frei) const;
     sqlite3_stmt* anweisung() const { return m_s; }
 
 private:
@@ -61,8 +76,5 @@ private:
 
 // The error of a failed SQLite call, with the number the system's messages use.
 [[noreturn]] void sqliteFehler(sqlite3* db, int rc, const QString& sql);
-
-bool istDatumTyp(const QString& typ);
-bool istZahlTyp(const QString& typ);
 
 } // namespace vemo::detail

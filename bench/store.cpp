@@ -1,0 +1,129 @@
+// Staging rows through the record set, each Update committing by itself with a key from NeueID,
+// against the same rows inserted by plain SQLite in one transaction.
+#include "host/ModulState.h"
+#include "platform/KonsolenUi.h"
+#include "store/Datenbank.h"
+#include "store/Recordset.h"
+#include "store/Schema.h"
+#include "store/Schluessel.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+using namespace vemo;
+
+namespace {
+
+constexpr int Zeilen = 10000;
+
+QString frischeDatenbank(const QTemporaryDir& dir) {
+    const QString pfad = dir.filePath("bench.db");
+    datenbankAnlegen(pfad, false);
+    return pfad;
+}
+
+void RecordsetMitNeueID(benchmark::State& state) {
+    KonsolenUi ui;
+    modul().ui = &ui;
+    for (auto _ : state) {
+        state.PauseTiming();
+        QTemporaryDir dir;
+        NeueID("", "");
+        modul().db = Datenbank::OpenDatabase(frischeDatenbank(dir));
+        state.ResumeTiming();
+        Recordset rs = db().OpenRecordset("0100_EinleseMessDaten");
+        for (int i = 0; i < Zeilen; ++i) {
+            rs.AddNew();
+            rs.setField("MessungID", NeueID("", "0100_EinleseDaten"));
+            rs.setField("Funktion", "RISO");
+            rs.setField("wert", "245");
+            rs.setField("Einheit", "MOhm");
+            rs.Update();
+        }
+        state.PauseTiming();
+        NeueID("", "");
+        modul().db.Close();
+        state.ResumeTiming();
+    }
+    state.counters["rows/s"] =
+        benchmark::Counter(double(Zeilen) * double(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+void SqliteEineTransaktion(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        QTemporaryDir dir;
+        const QByteArray pfad = frischeDatenbank(dir).toUtf8();
+        sqlite3* db = nullptr;
+        sqlite3_open(pfad.constData(), &db);
+        sqlite3_exec(db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;", nullptr, nullptr, nullptr);
+        state.ResumeTiming();
+        sqlite3_stmt* s = nullptr;
+        sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
+        sqlite3_prepare_v2(db, "INSERT INTO \"0100_EinleseMessDaten\" VALUES (?1, 'RISO', '245', 'MOhm')", -1,
+                           &s, nullptr);
+        for (int i = 0; i < Zeilen; ++i) {
+            sqlite3_bind_int(s, 1, 10000 + i);
+            sqlite3_step(s);
+            sqlite3_reset(s);
+        }
+        sqlite3_finalize(s);
+        sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+        state.PauseTiming();
+        sqlite3_close(db);
+        state.ResumeTiming();
+    }
+    state.counters["rows/s"] =
+        benchmark::Counter(double(Zeilen) * double(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+// What the commits alone cost: per row the counter's update and the insert, each committing by itself.
+void SqliteZweiCommitsJeZeile(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        QTemporaryDir dir;
+        const QByteArray pfad = frischeDatenbank(dir).toUtf8();
+        sqlite3* db = nullptr;
+        sqlite3_open(pfad.constData(), &db);
+        sqlite3_exec(db,
+                     "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;"
+                     "INSERT INTO IDIncrement VALUES (1, 0, '0100_EinleseDaten', 10000);",
+                     nullptr, nullptr, nullptr);
+        state.ResumeTiming();
+        sqlite3_stmt* zähler = nullptr;
+        sqlite3_stmt* s = nullptr;
+        sqlite3_prepare_v2(db, "UPDATE IDIncrement SET LastID = LastID + 1 WHERE rowid = 1", -1, &zähler,
+                           nullptr);
+        sqlite3_prepare_v2(db, "INSERT INTO \"0100_EinleseMessDaten\" VALUES (?1, 'RISO', '245', 'MOhm')", -1,
+                           &s, nullptr);
+        for (int i = 0; i < Zeilen; ++i) {
+            sqlite3_step(zähler);
+            sqlite3_reset(zähler);
+            sqlite3_bind_int(s, 1, 10000 + i);
+            sqlite3_step(s);
+            sqlite3_reset(s);
+        }
+        sqlite3_finalize(zähler);
+        sqlite3_finalize(s);
+        state.PauseTiming();
+        sqlite3_close(db);
+        state.ResumeTiming();
+    }
+    state.counters["rows/s"] =
+        benchmark::Counter(double(Zeilen) * double(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+} // namespace
+
+BENCHMARK(SqliteZweiCommitsJeZeile)->Unit(benchmark::kMillisecond);
+BENCHMARK(RecordsetMitNeueID)->Unit(benchmark::kMillisecond);
+BENCHMARK(SqliteEineTransaktion)->Unit(benchmark::kMillisecond);
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
