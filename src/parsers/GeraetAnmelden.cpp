@@ -66,7 +66,7 @@ std::optional<qint32> GerätAnmelden(const Gerätefamilie& familie, const Kennun
         alsLetztesPrüfgerätMerken(familie, gefunden);
     } else if (modul().dateinameGewählt.isEmpty()) {
         // Only what came over the serial line is the user's own instrument; a saved file may come
-        // from anywhere, and its instrument stays out of the prüfgeräte.
+        // from anywhere, and its instrument stays out of the register.
         if (familie.ohneSeriennummerKopfFehlt && kennung.seriennummer.trimmed().isEmpty()) {
             kopfFehlt();
             return std::nullopt;

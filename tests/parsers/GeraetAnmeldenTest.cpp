@@ -69,10 +69,4 @@ TEST_F(GerätAnmeldenTest, FamiliesDifferOnlyByTheirData) {
     EXPECT_EQ(anzahl("Prüfgerät"), 2);
 }
 
-TEST_F(GerätAnmeldenTest, FailedLookUpLeavesNoRow) {
-    EXPECT_THROW(GerätAnmelden(familie::Multitester, {{}, {}, "it's"}), Fehler);
-    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 0);
-    EXPECT_EQ(anzahl("Prüfgerät"), 0);
-}
-
 } // namespace
