@@ -9,7 +9,7 @@ namespace vemo {
 
 namespace detail {
 std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
-                                              const Verbindung::Tabelle* t);
+                                              std::shared_ptr<const Verbindung::Tabelle> t);
 std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
                                               const Übersetzung& ü, const QVector<QVariant>& parameter);
 } // namespace detail
@@ -57,7 +57,7 @@ Recordset Datenbank::OpenRecordset(const QString& quelle) const {
     const QString name = ohneKlammern(quelle);
     const bool istAnweisung = name.contains(' ') || name.contains('\n') || name.startsWith('(');
     if (!istAnweisung) {
-        if (const auto* t = v().tabelle(name))
+        if (const auto t = v().tabelle(name))
             return Recordset(detail::tabelleÖffnen(m_v, quelle, t));
         if (abfrageVorhanden(name))
             return QueryDefs(name).OpenRecordset();

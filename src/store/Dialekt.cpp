@@ -192,7 +192,8 @@ size_t operandRechts(const std::vector<Token>& t, size_t i) {
     return e;
 }
 
-// a & b becomes ifnull(a,'') || ifnull(b,''): the dialect's & reads Null as an empty text.
+// a & b becomes VbText(a) || VbText(b): the dialect's & reads Null as an empty text and writes
+// numbers as the system writes them.
 void verkettungUmsetzen(std::vector<Token>& t) {
     for (size_t i = 0; i < t.size(); ++i) {
         if (!ist(t[i], "&"))
@@ -201,11 +202,9 @@ void verkettungUmsetzen(std::vector<Token>& t) {
         const size_t rechtsAnfang = nächstes(t, i + 1);
         const size_t rechtsEnde = operandRechts(t, i + 1);
         const auto mitLeerText = [](std::vector<Token>& v, auto von, auto bis) {
-            v.push_back({Art::Wort, "ifnull"});
+            v.push_back({Art::Wort, "VbText"});
             v.push_back({Art::Zeichen, "("});
             v.insert(v.end(), von, bis);
-            v.push_back({Art::Zeichen, ","});
-            v.push_back({Art::Text, ""});
             v.push_back({Art::Zeichen, ")"});
         };
         std::vector<Token> neu(t.begin(), t.begin() + long(links));

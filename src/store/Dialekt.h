@@ -17,7 +17,8 @@ struct Übersetzung {
 };
 
 // Translates the dialect the component's statements are written in: [bracketed] and digit-leading
-// names, double-quoted strings, & concatenation (Null reads as empty text), DELETE * FROM, True and
+// names, double-quoted strings, & concatenation (Null reads as empty text, numbers as the system
+// writes them), DELETE * FROM, True and
 // False, #date# literals, division as in floating point, a statement wrapped in parentheses with
 // a ";" inside, and a PARAMETERS clause.
 Übersetzung übersetzen(const QString& statement);

@@ -37,8 +37,8 @@ struct RecordsetDaten {
     QString name;
     bool offen = true;
 
-    bool seitenweise = false;                     // a table opened by name
-    const Verbindung::Tabelle* tabelle = nullptr; // the table rows are written to; null: read-only
+    bool seitenweise = false;                           // a table opened by name
+    std::shared_ptr<const Verbindung::Tabelle> tabelle; // the table rows are written to; null: read-only
     QString abfrage;
     bool mitRowid = false;
     QVector<QVariant> parameter;
@@ -555,7 +555,7 @@ void Recordset::Close() {
 namespace vemo::detail {
 
 std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
-                                              const Verbindung::Tabelle* t) {
+                                              std::shared_ptr<const Verbindung::Tabelle> t) {
     auto d = std::make_shared<RecordsetDaten>();
     d->v = v;
     d->name = name;

@@ -58,7 +58,24 @@ void textFunktion(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
         textErgebnis(ctx, s.toLower());
 }
 
+// The operand of the dialect's &: Null gives the empty text, a number is written as the system
+// writes numbers ("10000", not "10000.0").
+void vbTextFunktion(sqlite3_context* ctx, int, sqlite3_value** argv) {
+    switch (sqlite3_value_type(argv[0])) {
+    case SQLITE_NULL:
+        textErgebnis(ctx, QString());
+        return;
+    case SQLITE_FLOAT:
+        textErgebnis(ctx, zahlformat::text(sqlite3_value_double(argv[0])));
+        return;
+    default:
+        textErgebnis(ctx, textArgument(argv[0]));
+    }
+}
+
 void funktionenAnmelden(sqlite3* db) {
+    sqlite3_create_function(db, "VbText", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, vbTextFunktion,
+                            nullptr, nullptr);
     sqlite3_create_function(db, "Val", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, valFunktion, nullptr,
                             nullptr);
     static const struct {
@@ -224,10 +241,10 @@ sqlite3_stmt* Verbindung::anweisung(const QString& sql) {
     return s;
 }
 
-const Verbindung::Tabelle* Verbindung::tabelle(const QString& name) {
+std::shared_ptr<const Verbindung::Tabelle> Verbindung::tabelle(const QString& name) {
     const QString schlüssel = name.toLower();
     if (auto it = m_tabellen.constFind(schlüssel); it != m_tabellen.cend())
-        return &*it;
+        return *it;
     Tabelle t;
     {
         Schritt s(anweisung("SELECT name FROM sqlite_master WHERE type IN ('table','view') AND name = ?1 "
@@ -269,7 +286,9 @@ const Verbindung::Tabelle* Verbindung::tabelle(const QString& name) {
         if (!t.berechneteVorgaben[i].startsWith('('))
             t.berechneteVorgaben[i].clear();
     }
-    return &*m_tabellen.insert(schlüssel, t);
+    auto beschreibung = std::make_shared<const Tabelle>(std::move(t));
+    m_tabellen.insert(schlüssel, beschreibung);
+    return beschreibung;
 }
 
 QVector<QVariant> Verbindung::vorgabenJetzt(const Tabelle& t) {

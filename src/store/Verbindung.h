@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
+#include <memory>
 #include <sqlite3.h>
 
 namespace vemo::detail {
@@ -45,7 +46,9 @@ public:
 
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
     sqlite3_stmt* anweisung(const QString& sql);
-    const Tabelle* tabelle(const QString& name);
+    // What the store knows of a table; null when there is no such table. Record sets keep their
+    // table's description alive, also across a change of the schema.
+    std::shared_ptr<const Tabelle> tabelle(const QString& name);
     // The defaults of a new row, with those that are computed evaluated now.
     QVector<QVariant> vorgabenJetzt(const Tabelle& t);
     void schemaGeändert();
@@ -54,7 +57,7 @@ private:
     sqlite3* m_db = nullptr;
     QString m_pfad;
     QHash<QString, sqlite3_stmt*> m_anweisungen;
-    QHash<QString, Tabelle> m_tabellen; // by lower-case name
+    QHash<QString, std::shared_ptr<const Tabelle>> m_tabellen; // by lower-case name
 };
 
 // Runs a prepared statement and resets it when it goes out of scope.

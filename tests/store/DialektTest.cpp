@@ -45,6 +45,9 @@ TEST_F(DialektTest, StatementsOfTheComponentRun) {
     // & reads Null as an empty text, Val() takes the numeric prefix.
     EXPECT_EQ(wert("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;"), "7");
     EXPECT_EQ(wert("SELECT 'P' & ProtokollNr & \"-\" FROM 0100_Prüfung WHERE PrüfungID = 3"), "P-");
+    sql("INSERT INTO \"0100_EinleseGeräteDaten\" (GeräteID, PrüfgerätID) VALUES (1, 10000);");
+    EXPECT_EQ(wert("SELECT '#' & PrüfgerätID FROM 0100_EinleseGeräteDaten"),
+              "#10000"); // a float key, as written
     // Division as the dialect computes it: 1/2 is a half.
     EXPECT_EQ(wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 1/2 AND Selektive = 0"),
               wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 0.5 AND Selektive = 0"));
