@@ -162,8 +162,12 @@ void EinleseDatenAnsicht::verbinden() {
     connect(m_schließen, &QPushButton::clicked, &f, &EinleseDatenController::schließenKlick);
 }
 
+// Escape or the window's close box unload the form; a window whose form was never shown as a
+// dialog closes all the same.
 void EinleseDatenAnsicht::reject() {
     m_formular.formTaste(27);
+    if (!m_formular.istOffen())
+        QDialog::reject();
 }
 
 // ---- showing the controller's state
