@@ -8,6 +8,8 @@
 #include "platform/Ui.h"
 #include "store/Variant.h"
 
+#include <array>
+
 namespace vemo {
 
 namespace {
