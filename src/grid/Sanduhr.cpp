@@ -1,0 +1,18 @@
+#include "grid/Sanduhr.h"
+
+#include "host/ModulState.h"
+#include "platform/Ui.h"
+
+namespace vemo {
+
+Sanduhr::Sanduhr() {
+    if (modul().ui)
+        modul().ui->sanduhr(true);
+}
+
+Sanduhr::~Sanduhr() {
+    if (modul().ui)
+        modul().ui->sanduhr(false);
+}
+
+} // namespace vemo

@@ -1,0 +1,11 @@
+#include "grid/Sprachregel.h"
+
+#include "host/ModulState.h"
+
+namespace vemo {
+
+bool englischUK() {
+    return modul().sprachen.Sprache() == "English (United Kingdom)";
+}
+
+} // namespace vemo

@@ -1,0 +1,202 @@
+#include "GridUmgebung.h"
+
+#include "grid/EinleseDatenAnsicht.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QImage>
+#include <QLabel>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableView>
+#include <QTest>
+
+using namespace vemo;
+using namespace vemo::test;
+
+namespace {
+
+// The form with its window on the (offscreen) screen: rows resolved, to be created and unresolved.
+class AnsichtTest : public GridUmgebung {
+protected:
+    void SetUp() override {
+        GridUmgebung::SetUp();
+        gerät(1, "0100-Corvex");
+        zeile({.messungID = 1,
+               .datum = "14.06.2022",
+               .uhrzeit = "09:30:00",
+               .kundeID = 1,
+               .anlageID = 1,
+               .prüfungID = 1,
+               .verteilerID = 1,
+               .stromkreisID = 1});
+        zeile({.messungID = 2,
+               .kundeNr = "12",
+               .anlageNr = "007",
+               .verteilerNr = "0002",
+               .stromkreisNr = "0003"});
+        zeile({.messungID = 3, .kundeNr = "99", .datum = "15.06.2022", .uhrzeit = "11:00:00"});
+        m_formular = formular();
+        m_ansicht = std::make_unique<EinleseDatenAnsicht>(*m_formular);
+        m_formular->geöffnet();
+        m_ansicht->show();
+        m_ansicht->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_ansicht.get()));
+    }
+    void TearDown() override {
+        m_ansicht.reset();
+        m_formular.reset();
+        GridUmgebung::TearDown();
+    }
+
+    QTableView* tabelle() const { return m_ansicht->tabelle(); }
+    QComboBox* combo() const { return m_ansicht->comboEdit(); }
+    QPoint mitte(int zeile, int spalte) const {
+        return tabelle()->visualRect(tabelle()->model()->index(zeile - 1, spalte)).center();
+    }
+    // A double click as the window system delivers it: press, release, then the double click.
+    void doppelklick(int zeile, int spalte) {
+        QTest::mouseClick(tabelle()->viewport(), Qt::LeftButton, {}, mitte(zeile, spalte));
+        QTest::mouseDClick(tabelle()->viewport(), Qt::LeftButton, {}, mitte(zeile, spalte));
+        combo()->hidePopup();
+    }
+    template <typename T> T* kind(const char* name) const { return m_ansicht->findChild<T*>(name); }
+
+    std::unique_ptr<EinleseDatenController> m_formular;
+    std::unique_ptr<EinleseDatenAnsicht> m_ansicht;
+};
+
+TEST_F(AnsichtTest, TheWindowShowsTheGridTheControlsAndTheCellStates) {
+    EXPECT_EQ(m_ansicht->windowTitle(), modul().anwendungstitel + " - " + xText("Einlesedaten"));
+    EXPECT_EQ(tabelle()->model()->headerData(3, Qt::Horizontal).toString(), xText("Prüfung"));
+    EXPECT_EQ(tabelle()->model()->rowCount(), 3);
+    EXPECT_EQ(tabelle()->columnWidth(1), 116);
+    EXPECT_FALSE(tabelle()->isColumnHidden(6));
+    EXPECT_FALSE(kind<QProgressBar>("fortschritt")->isVisible());
+    EXPECT_FALSE(kind<QPushButton>("EditResults")->isVisible());
+    EXPECT_TRUE(kind<QPushButton>("Uebernehmen")->isEnabled());
+    EXPECT_EQ(kind<QLabel>("Hilfetext")->text(), xText("EinlesedatenHilfetext"));
+    EXPECT_GE(m_ansicht->width(), std::min(7 * 116, m_ansicht->screen()->availableGeometry().width()));
+
+    const QAbstractItemModel* m = tabelle()->model();
+    const auto farbe = [m](int zeile, int spalte) {
+        return m->index(zeile - 1, spalte).data(Qt::ForegroundRole).value<QColor>();
+    };
+    const auto fett = [m](int zeile, int spalte) {
+        return m->index(zeile - 1, spalte).data(Qt::FontRole).value<QFont>().bold();
+    };
+    EXPECT_EQ(farbe(2, 2), QColor(0, 128, 128)); // plant 007 to be created
+    EXPECT_TRUE(fett(2, 2));
+    EXPECT_EQ(farbe(3, 1), QColor(255, 0, 0)); // customer 99 unknown
+    EXPECT_TRUE(fett(3, 1));
+    EXPECT_EQ(farbe(1, 1), m_ansicht->palette().color(QPalette::ButtonText));
+    EXPECT_FALSE(fett(1, 1));
+    EXPECT_TRUE(m->index(0, 6).data(Qt::BackgroundRole).isValid());
+
+    // The grid as the user sees it carries both state colours.
+    const QImage bild = m_ansicht->grab().toImage();
+    bool rot = false, blaugrün = false;
+    for (int y = 0; y < bild.height(); ++y)
+        for (int x = 0; x < bild.width(); ++x) {
+            const QColor c = bild.pixelColor(x, y);
+            rot = rot || (c.red() > 200 && c.green() < 60 && c.blue() < 60);
+            blaugrün = blaugrün || (c.red() < 60 && c.green() > 100 && c.green() < 160 && c.blue() > 100 &&
+                                    c.blue() < 160);
+        }
+    EXPECT_TRUE(rot);
+    EXPECT_TRUE(blaugrün);
+
+    // The picture of the documentation, with the columns as wide as a user drags them.
+    if (const QByteArray ziel = qgetenv("VEMO_GRID_BILD"); !ziel.isEmpty()) {
+        tabelle()->resizeColumnsToContents();
+        m_ansicht->resize(
+            m_ansicht->sizeHint().expandedTo(QSize(tabelle()->horizontalHeader()->length() + 40, 0)));
+        m_ansicht->grab().save(QString::fromLocal8Bit(ziel));
+    }
+}
+
+TEST_F(AnsichtTest, ADoubleClickOpensTheComboOnDataCellsOnly) {
+    doppelklick(2, 6);
+    EXPECT_FALSE(combo()->isVisible());
+    const QHeaderView* kopf = tabelle()->horizontalHeader();
+    QTest::mouseDClick(kopf->viewport(), Qt::LeftButton, {},
+                       QPoint(kopf->sectionViewportPosition(2) + 10, 5));
+    EXPECT_FALSE(combo()->isVisible());
+
+    doppelklick(2, 2);
+    ASSERT_TRUE(combo()->isVisible());
+    EXPECT_EQ(combo()->count(), 3);
+    EXPECT_EQ(combo()->itemText(0), xText("keine Anlage"));
+    EXPECT_EQ(combo()->itemData(2).toInt(), 2);
+    EXPECT_EQ(m_formular->grid().auswahl.Row, 2);
+    EXPECT_EQ(m_formular->editCol(), 2);
+    EXPECT_TRUE(combo()->geometry().intersects(tabelle()->visualRect(tabelle()->model()->index(1, 2))));
+}
+
+TEST_F(AnsichtTest, EnterStoresEscapeAndArrowsAlone) {
+    doppelklick(1, 2);
+    QTest::keyClick(combo(), Qt::Key_Down);
+    EXPECT_EQ(combo()->currentText(), "002 A2 Verkaufsraum");
+    QTest::keyClick(combo(), Qt::Key_Escape);
+    EXPECT_FALSE(combo()->isVisible());
+    EXPECT_TRUE(m_ansicht->isVisible()); // Escape in the box doesn't close the form
+    EXPECT_EQ(feld(1, "AnlageID"), "1");
+
+    doppelklick(1, 2);
+    QTest::keyClick(combo(), Qt::Key_Down);
+    tabelle()->setFocus();
+    EXPECT_FALSE(combo()->isVisible());
+    EXPECT_EQ(feld(1, "AnlageID"), "1");
+
+    doppelklick(1, 2);
+    QTest::keyClick(combo(), Qt::Key_Down);
+    QTest::keyClick(combo(), Qt::Key_Return);
+    EXPECT_FALSE(combo()->isVisible());
+    EXPECT_EQ(feld(1, "AnlageID"), "2");
+    EXPECT_EQ(feld(1, "PrüfungID"), "0");
+    EXPECT_EQ(tabelle()->model()->index(0, 2).data().toString(), "002 A2 Verkaufsraum");
+    EXPECT_TRUE(m_ansicht->isVisible());
+}
+
+TEST_F(AnsichtTest, TypingOnTheGridOpensTheComboWithTheCharacter) {
+    tabelle()->setFocus();
+    tabelle()->selectionModel()->setCurrentIndex(tabelle()->model()->index(2, 4),
+                                                 QItemSelectionModel::ClearAndSelect);
+    QTest::keyClick(tabelle(), Qt::Key_0);
+    ASSERT_TRUE(combo()->isVisible());
+    EXPECT_EQ(combo()->currentText(), "0");
+    EXPECT_EQ(m_formular->editRow(), 3);
+    QTest::keyClick(combo(), Qt::Key_Escape);
+    QTest::keyClick(tabelle(), Qt::Key_Escape);
+    EXPECT_FALSE(m_formular->istOffen());
+}
+
+TEST_F(AnsichtTest, TheContextMenuAndTheButtonDeleteTheRows) {
+    QTest::mouseClick(tabelle()->viewport(), Qt::RightButton, {}, mitte(3, 6));
+    QMenu* menü = m_ansicht->menue();
+    ASSERT_TRUE(menü->isVisible());
+    EXPECT_FALSE(menü->findChild<QAction*>("mnuZuordnung")->isEnabled());
+    EXPECT_TRUE(menü->findChild<QAction*>("mnuLoeschen")->isEnabled());
+    menü->hide();
+    EXPECT_EQ(m_formular->grid().auswahl.Row, 3);
+
+    tabelle()->selectAll();
+    EXPECT_EQ(kind<QLabel>("AnzahlZeilen")->text(),
+              xText("Anzahl der Markiertenzeilen") + " 3 " + xText("von") + " 3");
+    m_ui.antworten = {antwort::Ja};
+    QTest::mouseClick(kind<QPushButton>("ComLoeschen"), Qt::LeftButton);
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 0);
+    EXPECT_EQ(tabelle()->model()->rowCount(), 0);
+    EXPECT_FALSE(kind<QPushButton>("ComLoeschen")->isEnabled());
+    EXPECT_FALSE(kind<QPushButton>("Uebernehmen")->isEnabled());
+
+    QTest::mouseClick(kind<QPushButton>("Schliessen"), Qt::LeftButton);
+    EXPECT_FALSE(m_formular->istOffen());
+    EXPECT_FALSE(m_ansicht->isVisible());
+}
+
+} // namespace

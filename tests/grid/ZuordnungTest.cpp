@@ -1,0 +1,199 @@
+#include "GridUmgebung.h"
+
+#include "platform/Zahlformat.h"
+
+#include <QDate>
+
+using namespace vemo;
+using namespace vemo::test;
+
+namespace {
+
+using ZuordnungTest = GridUmgebung;
+
+constexpr int Enter = 13;
+constexpr int Escape = 27;
+constexpr int Runter = 40;
+
+// Opens the combo box by a double click on a cell, as the grid's mouse events reach the form.
+void doppelklick(EinleseDatenController& f, int zeile, int spalte) {
+    f.gridMausRunter(zeile, spalte, false);
+    f.gridMausHoch(zeile, spalte, false);
+    f.gridDoppelklick();
+}
+
+int eintrag(const EinleseDatenController& f, const QString& text) {
+    const auto& e = f.combo().einträge;
+    for (int i = 0; i < e.size(); ++i)
+        if (e[i].text == text)
+            return i;
+    return -1;
+}
+
+TEST_F(ZuordnungTest, ACustomerForSeveralRowsClearsTheirLowerKeys) {
+    gerät(1, "0100-Corvex");
+    for (int id = 1; id <= 4; ++id)
+        zeile({.messungID = id,
+               .kundeID = 1,
+               .anlageID = 1,
+               .prüfungID = 1,
+               .verteilerID = 1,
+               .stromkreisID = 1});
+    auto f = formular();
+    f->gridAuswahl({1, 1, 3, 1});
+    doppelklick(*f, 2, 1);
+    ASSERT_TRUE(f->combo().sichtbar);
+    EXPECT_EQ(f->combo().listIndex, eintrag(*f, "Bäckerei Sommer")); // the row's own customer
+
+    // The customers by name, each with its key.
+    QStringList namen;
+    for (const auto& e : f->combo().einträge)
+        namen << e.text + "=" + e.schlüssel.toString();
+    EXPECT_EQ(namen, QStringList({"Bäckerei Sommer=1", "Praxis Dr. Feldmann=3", "Wohnbau Nordhang=2"}));
+
+    f->comboKlick(eintrag(*f, "Wohnbau Nordhang"));
+    EXPECT_FALSE(f->combo().sichtbar);
+    for (int id = 1; id <= 3; ++id) {
+        EXPECT_EQ(feld(id, "KundeID"), "2");
+        for (const char* unten : {"AnlageID", "PrüfungID", "VerteilerID", "StromkreisID"})
+            EXPECT_EQ(feld(id, unten), "0") << id << unten;
+    }
+    EXPECT_EQ(feld(4, "KundeID"), "1");
+    EXPECT_EQ(feld(4, "StromkreisID"), "1");
+    EXPECT_EQ(text(*f, 2, 1), "Wohnbau Nordhang");
+    EXPECT_EQ(zustand(*f, 2, 2), Zellzustand::Offen);
+    EXPECT_EQ(f->grid().auswahl.ersteZeile(), 1);
+    EXPECT_EQ(f->grid().auswahl.letzteZeile(), 3);
+}
+
+TEST_F(ZuordnungTest, RowsOfAnotherParentArePassedOver) {
+    gerät(1, "0100-Corvex");
+    zeile({.messungID = 1, .kundeID = 1, .anlageID = 1});
+    zeile({.messungID = 2, .kundeID = 1, .anlageID = 1});
+    zeile({.messungID = 3, .kundeID = 1, .anlageID = 2});
+    zeile({.messungID = 4, .kundeID = 2, .anlageID = 3});
+    auto f = formular();
+
+    f->gridAuswahl({1, 3, 4, 3});
+    doppelklick(*f, 1, 3);
+    ASSERT_EQ(f->combo().einträge.size(), 2);
+    EXPECT_EQ(f->combo().einträge[0].text, xText("keine Prüfung"));
+    const QString prüfung = zahlformat::datumText(QDate(2022, 6, 14)) + " " + xText("Grund1") + " 00000001";
+    EXPECT_EQ(f->combo().einträge[1].text, prüfung);
+    f->comboKlick(1);
+    EXPECT_EQ(feld(1, "PrüfungID"), "1");
+    EXPECT_EQ(feld(2, "PrüfungID"), "1");
+    EXPECT_EQ(feld(3, "PrüfungID"), "0");
+    EXPECT_EQ(feld(4, "PrüfungID"), "0");
+    EXPECT_EQ(text(*f, 1, 3), prüfung);
+
+    // "keine Anlage" for a customer's rows: a typed number stays and the plant is to be created.
+    sql("UPDATE \"0100_EinleseDaten\" SET AnlageNr = '004' WHERE MessungID = 2;");
+    f->gridAuswahl({1, 2, 4, 2});
+    doppelklick(*f, 1, 2);
+    f->comboKlick(eintrag(*f, xText("keine Anlage")));
+    for (int id : {1, 2, 3})
+        EXPECT_EQ(feld(id, "AnlageID"), "0") << id;
+    EXPECT_EQ(feld(1, "PrüfungID"), "0");
+    EXPECT_EQ(feld(4, "AnlageID"), "3");
+    EXPECT_EQ(feld(2, "AnlageNr"), "004");
+    EXPECT_EQ(text(*f, 2, 2), "004");
+    EXPECT_EQ(zustand(*f, 2, 2), Zellzustand::Anzulegen);
+}
+
+TEST_F(ZuordnungTest, BoardAndCircuitTakeTheEntryTextAsTheirNumber) {
+    gerät(1, "0100-Corvex");
+    zeile({.messungID = 1, .kundeID = 1, .anlageID = 1, .prüfungID = 1, .verteilerID = 1, .stromkreisID = 1});
+    zeile({.messungID = 2, .kundeID = 1, .anlageID = 1, .prüfungID = 1, .verteilerID = 1});
+    auto f = formular();
+
+    doppelklick(*f, 2, 5);
+    QStringList kreise;
+    for (const auto& e : f->combo().einträge)
+        kreise << e.text;
+    EXPECT_EQ(kreise, QStringList({"0", "001 F1 Backofen", "002 F2 Steckdosen Backstube"}));
+    f->comboKlick(2);
+    EXPECT_EQ(feld(2, "StromkreisID"), "2");
+    EXPECT_EQ(feld(2, "StromkreisNr"), "002 F2 Steckdosen Backstube");
+
+    doppelklick(*f, 1, 4);
+    EXPECT_EQ(f->combo().einträge.value(0).text, "0");
+    f->comboKlick(0);
+    EXPECT_EQ(feld(1, "VerteilerNr"), "0");
+    EXPECT_EQ(feld(1, "VerteilerID"), "0");
+    EXPECT_EQ(feld(1, "StromkreisID"), "0");
+    EXPECT_EQ(text(*f, 1, 4), "0");
+    EXPECT_EQ(zustand(*f, 1, 4), Zellzustand::Anzulegen);
+    EXPECT_EQ(feld(2, "VerteilerID"), "1"); // outside the selection
+}
+
+TEST_F(ZuordnungTest, OnlyEnterOrAClickOnAnEntryStores) {
+    gerät(1, "0100-Corvex");
+    zeile({.messungID = 1, .kundeID = 1, .anlageID = 1, .prüfungID = 1, .verteilerID = 1, .stromkreisID = 1});
+    auto f = formular();
+
+    // Enter on the unchanged list stores the same key, which changes nothing below it either.
+    doppelklick(*f, 1, 2);
+    EXPECT_TRUE(f->tasteGesehen());
+    f->comboTaste(Enter);
+    EXPECT_FALSE(f->combo().sichtbar);
+    EXPECT_EQ(feld(1, "AnlageID"), "1");
+    EXPECT_EQ(feld(1, "StromkreisID"), "1");
+
+    // Moving through the list and leaving, or Escape, store nothing.
+    doppelklick(*f, 1, 2);
+    f->comboTaste(Runter);
+    EXPECT_EQ(f->combo().text, "002 A2 Verkaufsraum");
+    f->comboFokusVerloren();
+    EXPECT_EQ(feld(1, "AnlageID"), "1");
+    doppelklick(*f, 1, 2);
+    f->comboTaste(Runter);
+    f->comboTaste(Escape);
+    EXPECT_FALSE(f->combo().sichtbar);
+    EXPECT_EQ(feld(1, "AnlageID"), "1");
+    EXPECT_EQ(feld(1, "PrüfungID"), "1");
+
+    // A typed text that names no entry is dropped.
+    f->gridAuswahl({1, 2, 1, 2});
+    f->gridTaste('x');
+    EXPECT_EQ(f->combo().text, "x");
+    EXPECT_EQ(f->combo().listIndex, -1);
+    f->comboTaste(Enter);
+    EXPECT_EQ(feld(1, "AnlageID"), "1");
+
+    // Moving, then Enter, stores the entry moved to.
+    doppelklick(*f, 1, 2);
+    f->comboTaste(Runter);
+    f->comboTaste(Enter);
+    EXPECT_EQ(feld(1, "AnlageID"), "2");
+    EXPECT_EQ(feld(1, "PrüfungID"), "0");
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+}
+
+TEST_F(ZuordnungTest, TheComboOpensOnDataCellsOnlyAndFromOutsideTheSelectionForOneRow) {
+    gerät(1, "0100-Corvex");
+    for (int id = 1; id <= 3; ++id)
+        zeile({.messungID = id, .kundeID = 1});
+    auto f = formular();
+    f->gridAuswahl({1, 1, 2, 1});
+
+    for (const auto& [zeile, spalte] : {std::pair{1, 6}, {0, 2}, {2, 0}, {-1, 3}}) {
+        doppelklick(*f, zeile, spalte);
+        EXPECT_FALSE(f->combo().sichtbar) << zeile << "," << spalte;
+    }
+    f->gridAuswahl({1, 1, 2, 1});
+    f->gridMausHoch(2, 1, false);
+    f->mnuZuordnungKlick();
+    EXPECT_TRUE(f->combo().sichtbar);
+    EXPECT_TRUE(f->combo().listeOffen);
+    EXPECT_EQ(f->grid().auswahl.letzteZeile(), 2); // inside the selection: it stays
+    f->comboTaste(Escape);
+
+    doppelklick(*f, 3, 2);
+    EXPECT_TRUE(f->combo().sichtbar);
+    EXPECT_EQ(f->grid().auswahl.Row, 3);
+    EXPECT_EQ(f->grid().auswahl.RowSel, 3);
+    EXPECT_EQ(f->grid().auswahl.Col, 2);
+}
+
+} // namespace
