@@ -2,12 +2,14 @@
 
 #include "Sitzung.h"
 
+#include "grid/GridBefehle.h"
 #include "language/SprachDatenbank.h"
 #include "store/Fehler.h"
 #include "store/Schema.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTextStream>
 #include <cstdio>
 #include <functional>
 #include <map>
@@ -61,12 +63,39 @@ int readFile(const Optionen& o) {
     });
 }
 
+int grid(const Optionen& o) {
+    return mitKomponente(o, [&](Sitzung&) {
+        QTextStream aus(stdout);
+        return vemo::gridBefehl(o.schalter("--json"), aus);
+    });
+}
+
+int assign(const Optionen& o) {
+    const auto zeilen = o.option("--rows");
+    const auto spalte = o.option("--column");
+    const auto schlüssel = o.option("--key");
+    if (!zeilen || !spalte || !schlüssel) {
+        ausgeben("vemo0100: assign needs --rows A[-B] --column 1..5 --key K");
+        return 2;
+    }
+    return mitKomponente(o, [&](Sitzung&) { return vemo::zuordnenBefehl(*zeilen, *spalte, *schlüssel); });
+}
+
+int deleteRows(const Optionen& o) {
+    const auto zeilen = o.option("--rows");
+    if (!zeilen) {
+        ausgeben("vemo0100: delete-rows needs --rows A[-B]");
+        return 2;
+    }
+    return mitKomponente(o, [&](Sitzung&) { return vemo::zeilenLöschenBefehl(*zeilen); });
+}
+
 } // namespace
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
-        {"init-db", initDb},
-        {"read-file", readFile},
+        {"init-db", initDb}, {"read-file", readFile},     {"grid", grid},
+        {"assign", assign},  {"delete-rows", deleteRows},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

@@ -133,7 +133,9 @@ QString gridTabelle(const EinleseGrid& grid) {
         for (int spalte = 0; spalte < spalten; ++spalte)
             zeile += (spalte == 0 ? texte[spalte].rightJustified(breiten[spalte])
                                   : "  " + texte[spalte].leftJustified(breiten[spalte]));
-        aus += zeile.trimmed() + "\n";
+        while (zeile.endsWith(' '))
+            zeile.chop(1); // keep the numbers of column 0 right-aligned
+        aus += zeile + "\n";
     }
     return aus + "+ " + xText("wird bei der Übernahme angelegt") + ", ! " + xText("nicht zugeordnet") + "\n";
 }

@@ -1,5 +1,6 @@
 #include "host/Modul15a.h"
 
+#include "grid/EinleseDatenController.h"
 #include "host/DateiEinlesen.h"
 #include "host/ModulState.h"
 #include "host/Transfer.h"
@@ -146,7 +147,8 @@ void vemo0100Modul15a::EinleseDaten() {
             ui().MsgBox(xText("Es sind keine Eilnlesedaten vorhanden"), modul().anwendungstitel);
             return;
         }
-        nichtVerfügbar();
+        EinleseDatenController form;
+        ui().zeigeModal(form);
     });
 }
 
