@@ -162,7 +162,7 @@ sqlite3_stmt* Verbindung::anweisung(const QString& sql) {
 const Verbindung::Tabelle* Verbindung::tabelle(const QString& name) {
     const QString schlüssel = name.toLower();
     if (auto it = m_tabellen.constFind(schlüssel); it != m_tabellen.cend())
-        return &*it;
+        return *it;
     Tabelle t;
     {
         Schritt s(anweisung("SELECT name FROM sqlite_master WHERE type IN ('table','view') AND name = ?1 "
@@ -199,7 +199,9 @@ const Verbindung::Tabelle* Verbindung::tabelle(const QString& name) {
         }
         t.vorgaben << v;
     }
-    return &*m_tabellen.insert(schlüssel, t);
+    m_tabellenBekannt.push_back(std::move(t));
+    m_tabellen.insert(schlüssel, &m_tabellenBekannt.back());
+    return &m_tabellenBekannt.back();
 }
 
 void Verbindung::schemaGeändert() {

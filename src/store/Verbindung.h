@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
+#include <list>
 #include <sqlite3.h>
 
 namespace vemo::detail {
@@ -39,7 +40,10 @@ private:
     sqlite3* m_db = nullptr;
     QString m_pfad;
     QHash<QString, sqlite3_stmt*> m_anweisungen;
-    QHash<QString, Tabelle> m_tabellen; // by lower-case name
+    // What is known of each table, by lower-case name. Open record sets keep pointers to it, so
+    // the entries live as long as the connection; a change of schema only forgets the index.
+    std::list<Tabelle> m_tabellenBekannt;
+    QHash<QString, const Tabelle*> m_tabellen;
 };
 
 // Runs a prepared statement and resets it when it goes out of scope.
