@@ -129,7 +129,7 @@ TEST_F(EinheitTest, ConversionByTheFirstLettersOfTheUnits) {
 }
 
 TEST_F(EinheitTest, FunctionTableLookUp) {
-    sql("INSERT INTO \"0100_TeilFunktion\" VALUES ('Zs', 'LOOPRS', 'Ohm');");
+    sql("INSERT OR REPLACE INTO \"0100_TeilFunktion\" VALUES ('Zs', 'LOOPRS', 'Ohm');");
     QString spalte = "alt", einheit = "alt";
     EXPECT_FALSE(TeilFunktionSuchen("zs", spalte, einheit));
     EXPECT_EQ(spalte, "LOOPRS");
