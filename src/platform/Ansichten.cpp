@@ -1,10 +1,18 @@
 #include "platform/QtUi.h"
 
+#include "takeover/TeilFunktionAnsicht.h"
+#include "takeover/TeilFunktionDialog.h"
+
 namespace vemo {
 
 // One line a dialog: the controller's class name and how its view is made.
 const std::map<QString, Ansichtsfabrik>& ansichten() {
-    static const std::map<QString, Ansichtsfabrik> tabelle{};
+    static const std::map<QString, Ansichtsfabrik> tabelle{
+        {"vemo::frmTeilFunktion",
+         [](DialogController& c, QWidget* p) {
+             return new TeilFunktionAnsicht(static_cast<frmTeilFunktion&>(c), p);
+         }},
+    };
     return tabelle;
 }
 
