@@ -38,7 +38,7 @@ INSERT INTO Abfragen VALUES ('A_GrösterErdReWert',
 SELECT [0100_Messung].ErdRE
 FROM ([0100_Verteiler] INNER JOIN [0100_Stromkreis] ON [0100_Verteiler].VerteilerID = [0100_Stromkreis].VerteilerID)
   INNER JOIN [0100_Messung] ON [0100_Stromkreis].StromkreisID = [0100_Messung].StromkreisID
-WHERE [0100_Verteiler].PrüfungID = [paraPrüfungID] AND [0100_Messung].ErdRE <> "" AND Left([0100_Messung].ErdRE, 1) <> ">"
+WHERE [0100_Verteiler].PrüfungID = [paraPrüfungID] AND [0100_Messung].ErdRE <> "" AND Mid([0100_Messung].ErdRE, 1, 1) <> ">"
 ORDER BY Val(Replace([0100_Messung].ErdRE, ",", ".")) DESC;');
 
 INSERT INTO Abfragen VALUES ('A_GrösterErdReÜberlauf',
@@ -46,5 +46,5 @@ INSERT INTO Abfragen VALUES ('A_GrösterErdReÜberlauf',
 SELECT [0100_Messung].ErdRE
 FROM ([0100_Verteiler] INNER JOIN [0100_Stromkreis] ON [0100_Verteiler].VerteilerID = [0100_Stromkreis].VerteilerID)
   INNER JOIN [0100_Messung] ON [0100_Stromkreis].StromkreisID = [0100_Messung].StromkreisID
-WHERE [0100_Verteiler].PrüfungID = [paraPrüfungID] AND Left([0100_Messung].ErdRE, 1) = ">"
+WHERE [0100_Verteiler].PrüfungID = [paraPrüfungID] AND Mid([0100_Messung].ErdRE, 1, 1) = ">"
 ORDER BY Val(Replace(Mid([0100_Messung].ErdRE, 2), ",", ".")) DESC;');

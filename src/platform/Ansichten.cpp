@@ -1,6 +1,8 @@
 #include "platform/QtUi.h"
 
 #include "grid/EinleseDatenAnsicht.h"
+#include "takeover/TeilFunktionAnsicht.h"
+#include "takeover/TeilFunktionDialog.h"
 
 namespace vemo {
 
@@ -8,6 +10,10 @@ namespace vemo {
 const std::map<QString, Ansichtsfabrik>& ansichten() {
     static const std::map<QString, Ansichtsfabrik> tabelle{
         {"vemo::EinleseDatenController", einleseDatenAnsicht},
+        {"vemo::frmTeilFunktion",
+         [](DialogController& c, QWidget* p) {
+             return new TeilFunktionAnsicht(static_cast<frmTeilFunktion&>(c), p);
+         }},
     };
     return tabelle;
 }

@@ -1,0 +1,53 @@
+#include "Uebernahmeumgebung.h"
+
+#include "store/Recordset.h"
+#include "takeover/Laufschluessel.h"
+#include "takeover/MesswertUebernehmen.h"
+
+namespace vemo::test {
+namespace {
+QString zitiert(QString s) {
+    return "'" + s.replace("'", "''") + "'";
+}
+} // namespace
+
+void Uebernahmeumgebung::SetUp() {
+    Testumgebung::SetUp();
+    sql(R"(INSERT INTO "0100_Prüfung" ("PrüfungID", AnlagenID) VALUES (200, 100);
+           INSERT INTO "0100_Verteiler" (VerteilerID, "PrüfungID", Code) VALUES (300, 200, '001');
+           INSERT INTO "0100_Stromkreis" (StromkreisID, VerteilerID, Code) VALUES (400, 300, '001');
+           INSERT OR IGNORE INTO "0100_TeilFunktion" VALUES ('Ik', 'LoopIKRS', 'A');)");
+    laufschlüssel() = {200, 200, 300, 400};
+}
+
+void Uebernahmeumgebung::einlesen(const QList<Quellzeile>& zeilen, int messungID) const {
+    QString s;
+    for (const Quellzeile& z : zeilen)
+        s += QString("INSERT INTO \"0100_EinleseMessDaten\" (MessungID, Funktion, wert, Einheit) "
+                     "VALUES (%1, %2, %3, %4);")
+                 .arg(messungID)
+                 .arg(zitiert(z.funktion), zitiert(z.wert), zitiert(z.einheit));
+    sql(s);
+}
+
+void Uebernahmeumgebung::übernehmen(int messungID) const {
+    MesswertÜbernehmen(messungID, "01.02.2024", "10:11:12");
+}
+
+QStringList Uebernahmeumgebung::spalte(const QString& name) const {
+    QStringList werte;
+    Recordset rs = modul().db.OpenRecordset("SELECT [" + name + "] FROM [0100_Messung] ORDER BY MessID");
+    for (; !rs.Eof(); rs.MoveNext())
+        werte << rs.Text(name);
+    return werte;
+}
+
+QStringList Uebernahmeumgebung::messIDs() const {
+    return spalte("MessID");
+}
+
+QString Uebernahmeumgebung::grenzwert(const QString& spalte, const QString& messID) const {
+    return wert("SELECT [" + spalte + "] FROM [0100_Grenzwert] WHERE MessID = " + messID);
+}
+
+} // namespace vemo::test
