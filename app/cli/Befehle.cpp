@@ -2,6 +2,7 @@
 
 #include "Sitzung.h"
 
+#include "grid/EinleseDatenController.h"
 #include "grid/GridBefehle.h"
 #include "language/SprachDatenbank.h"
 #include "store/Fehler.h"
@@ -90,12 +91,20 @@ int deleteRows(const Optionen& o) {
     return mitKomponente(o, [&](Sitzung&) { return vemo::zeilenLöschenBefehl(*zeilen); });
 }
 
+int takeOver(const Optionen& o) {
+    return mitKomponente(o, [](Sitzung&) {
+        vemo::EinleseDatenController form;
+        form.übernehmenKlick();
+        return 0;
+    });
+}
+
 } // namespace
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
         {"init-db", initDb}, {"read-file", readFile},     {"grid", grid},
-        {"assign", assign},  {"delete-rows", deleteRows},
+        {"assign", assign},  {"delete-rows", deleteRows}, {"take-over", takeOver},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

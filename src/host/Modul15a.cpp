@@ -8,6 +8,7 @@
 #include "language/SprachDatenbank.h"
 #include "platform/Ui.h"
 #include "store/Schluessel.h"
+#include "takeover/Uebernahme.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -27,6 +28,7 @@ vemo0100Modul15a::vemo0100Modul15a(Ui& u, SettingsStore& s) {
     modul().ui = &u;
     modul().settings = &s;
     modul().anwendungstitel = "vemotrix professional";
+    EinleseDatenController::datenübernahmeEinsetzen(Übernehmen);
 }
 
 vemo0100Modul15a::~vemo0100Modul15a() {

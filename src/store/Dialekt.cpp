@@ -262,6 +262,9 @@ QString ausgeben(const std::vector<Token>& t, const QStringList& parameter) {
             const int pi = parameterIndex(parameter, k.text);
             if (pi >= 0)
                 out += "?" + QString::number(pi + 1);
+            else if ((ist(k, "Left") || ist(k, "Right")) && nächstes(t, i + 1) < t.size() &&
+                     ist(t[nächstes(t, i + 1)], "("))
+                out += zitiert(k.text, '"'); // Left and Right are join words to SQLite, not functions
             else if (ist(k, "True"))
                 out += "-1";
             else if (ist(k, "False"))

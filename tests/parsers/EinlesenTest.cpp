@@ -93,24 +93,25 @@ TEST_F(Einlesen, CorvexReportGivesOneRowPerGroupOfValues) {
     EXPECT_EQ(m_ui.texte(), QStringList());
     EXPECT_EQ(modul().Abbruchmerker, 0);
     EXPECT_FALSE(modul().DatenloggerMode);
-    EXPECT_EQ(blöcke(),
-              QStringList({
-                  "0001 0001: Riso V=500 V | Riso MOhm=245 MOhm",
-                  "0001 0001: LOW Ohm=0,12 Ohm",
-                  "0001 0002: Zs=0,35 Ohm | Zs Ik=657 A",
-                  "0001 0002: Ri=0,28 Ohm | Ri Ik=0,82 kA",
-                  "0001 0003: tFI=AC 0° | tFI mA=30 mA | tFI=1 | tFI t=18 ms | tFI Ub=3,5 V",
-                  "0001 0003: IdFI=AC 180° | IdFI mA=30 mA | IdFI=1/2 | IdFI Id=24 mA | IdFI t=31 ms | "
-                  "IdFI Ub=2,9 V",
-                  "0002 0001: U=231 V | U f=50 Hz",
-                  "0002 0001: Drehfeld=1.2.3",
-                  "0002 0004: Riso V=250 V | Riso MOhm=o.r. MOhm",
-                  "0002 0004: Riso MOhm=o.r. MOhm",
-                  "0002 0004: Riso V=1000 V | Riso MOhm=>200 MOhm",
-                  "0002 0004: Re=12,5 Ohm",
-                  "0002 0005: tFI S=AC 180° | tFI S=300 mA | tFI S=1 | tFI t=130 ms | tFI Ub=4,1 V",
-                  "0002 0005: UbFI S mA=300 mA | UbFI=1 | UbFI Ub=6,2 V | UbFI Re=21 Ohm",
-              }));
+    EXPECT_EQ(
+        blöcke(),
+        QStringList({
+            "0001 0001: Riso V=500 V | Riso MOhm=245 MOhm",
+            "0001 0001: LOW Ohm=0,12 Ohm",
+            "0001 0002: Zs=0,35 Ohm | Zs Ik=657 A",
+            "0001 0002: Ri=0,28 Ohm | Ri Ik=0,82 kA",
+            "0001 0003: tFI=AC 0° | tFI mA=30 mA | tFI=1 | tFI t=18 ms | tFI Ub=3,5 V | tFI Ub max=50 V",
+            "0001 0003: IdFI=AC 180° | IdFI mA=30 mA | IdFI=1/2 | IdFI Id=24 mA | IdFI t=31 ms | "
+            "IdFI Ub=2,9 V",
+            "0002 0001: U=231 V | U f=50 Hz",
+            "0002 0001: Drehfeld=1.2.3",
+            "0002 0004: Riso V=250 V | Riso MOhm=o.r. MOhm",
+            "0002 0004: Riso MOhm=o.r. MOhm",
+            "0002 0004: Riso V=1000 V | Riso MOhm=>200 MOhm",
+            "0002 0004: Re=12,5 Ohm",
+            "0002 0005: tFI S=AC 180° | tFI S=300 mA | tFI S=1 | tFI t=130 ms | tFI Ub=4,1 V",
+            "0002 0005: UbFI S mA=300 mA | UbFI=1 | UbFI Ub=6,2 V | UbFI Re=21 Ohm",
+        }));
     // Keys come from the counters, the first of a table being 10000.
     EXPECT_EQ(wert("SELECT Min(MessungID) & '-' & Max(MessungID) FROM 0100_EinleseDaten"), "10000-10013");
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseDaten WHERE GeräteID = 10000 AND AnlageNr = '' "
@@ -261,7 +262,7 @@ TEST_F(Einlesen, FamiliesWithoutParserSayWhyAndAbort) {
 TEST_F(Einlesen, HostDataKnowsEveryFunctionNameOfTheSamples) {
     probeLesen("corvex-verteilung.ser");
     probeLesen("multitester-tabelle.ser");
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseMessDaten"), "55");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseMessDaten"), "56");
     Recordset unbekannt =
         db().OpenRecordset("SELECT DISTINCT Funktion FROM 0100_EinleseMessDaten WHERE Funktion "
                            "NOT IN (SELECT TeilFunktion FROM 0100_TeilFunktion)");

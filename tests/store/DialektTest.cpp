@@ -53,6 +53,7 @@ TEST_F(DialektTest, StatementsOfTheComponentRun) {
               wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 0.5 AND Selektive = 0"));
     EXPECT_FALSE(
         wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 1/2 AND Selektive = 0").isEmpty());
+    EXPECT_EQ(wert("SELECT Left(Name, 3) & Right(Name, 2) FROM Kunde WHERE KundeID = 2"), "Wohng");
     // Like with the dialect's wildcard.
     EXPECT_EQ(wert("SELECT Count(*) FROM Kunde WHERE Name Like \"*e*\""), "2");
 
