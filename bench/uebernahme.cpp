@@ -1,0 +1,76 @@
+// The take-over of read-in rows with seven values each into the inspection records, for 1,000 and
+// 2,000 rows: the rows spread over boards of ten circuits, as a dump of a building does.
+#include "takeover/Uebernahme.h"
+#include "grid/EinleseDatenController.h"
+#include "host/ModulState.h"
+#include "platform/KonsolenUi.h"
+#include "platform/SettingsStore.h"
+#include "store/Datenbank.h"
+#include "store/Schema.h"
+#include "store/Schluessel.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+using namespace vemo;
+
+namespace {
+
+QString einleseZeilen(int anzahl) {
+    QString sql =
+        "BEGIN;INSERT INTO \"0100_EinleseGeräteDaten\" VALUES (1, '0100-Corvex', '  C12345678', 1, '');";
+    for (int i = 1; i <= anzahl; ++i) {
+        sql +=
+            QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, GeräteID, KundeID, AnlageID, VerteilerNr, "
+                    "StromkreisNr) VALUES (%1, 1, 1, 1, '%2', '%3');")
+                .arg(i)
+                .arg(1 + i / 10, 4, 10, QChar('0'))
+                .arg(1 + i % 10, 4, 10, QChar('0'));
+        sql +=
+            QString(
+                "INSERT INTO \"0100_EinleseMessDaten\" VALUES (%1, 'Riso V', '500', 'V'), (%1, 'Riso MOhm', "
+                "'245', 'MOhm'), (%1, 'LOW Ohm', '0,12', 'Ohm'), (%1, 'Zs', '0,35', 'Ohm'), (%1, 'Zs Ik', "
+                "'657', 'A'), (%1, 'Ri', '0,28', 'Ohm'), (%1, 'Ri Ik', '0,82', 'kA');")
+                .arg(i);
+    }
+    return sql + "COMMIT;";
+}
+
+void Uebernahme(benchmark::State& state) {
+    KonsolenUi ui;
+    SpeicherSettingsStore settings;
+    modul().ui = &ui;
+    modul().settings = &settings;
+    EinleseDatenController::datenübernahmeEinsetzen(Übernehmen);
+    const int zeilen = int(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        QTemporaryDir dir;
+        NeueID("", "");
+        datenbankAnlegen(dir.filePath("v.db"), true);
+        modul().db = Datenbank::OpenDatabase(dir.filePath("v.db"));
+        modul().Datenbankverzeichnis = dir.path();
+        db().skriptAusführen(einleseZeilen(zeilen));
+        EinleseDatenController form; // the refresh before the button is the user's, not the run's
+        state.ResumeTiming();
+        form.übernehmenKlick();
+        state.PauseTiming();
+        NeueID("", "");
+        modul().db.Close();
+        state.ResumeTiming();
+    }
+    state.counters["rows/s"] =
+        benchmark::Counter(double(zeilen) * double(state.iterations()), benchmark::Counter::kIsRate);
+}
+
+} // namespace
+
+BENCHMARK(Uebernahme)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond)->Iterations(2);
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
