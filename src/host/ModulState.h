@@ -7,11 +7,13 @@
 #include <QStringList>
 #include <QVariant>
 #include <functional>
+#include <memory>
 
 namespace vemo {
 
 class Ui;
 class SettingsStore;
+class CommPort;
 
 // The module variables: the state that the dialogs and parsers of the component share. There is
 // one such state per loaded component; a second instance of the public class shares it.
@@ -52,6 +54,8 @@ struct ModulState {
     QVariant applicationNameWert; // what reading ApplicationName yields; nothing ever sets it
     // A device path given directly (command line), in place of the port number's mapping.
     QString portPfad;
+    // Makes the serial control of the links; tests hand out an in-memory end. Empty: the real port.
+    std::function<std::unique_ptr<vemo::CommPort>()> commPortFabrik;
 
     Sprachen sprachen;
     // Errors shown by the standard trap since the component was loaded; the command line's exit

@@ -1,6 +1,7 @@
 #include "platform/QtUi.h"
 
 #include "grid/EinleseDatenAnsicht.h"
+#include "links/Form2Ansicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
 
@@ -10,6 +11,7 @@ namespace vemo {
 const std::map<QString, Ansichtsfabrik>& ansichten() {
     static const std::map<QString, Ansichtsfabrik> tabelle{
         {"vemo::EinleseDatenController", einleseDatenAnsicht},
+        {"vemo::Form2", &Form2Ansicht::erstellen},
         {"vemo::frmTeilFunktion",
          [](DialogController& c, QWidget* p) {
              return new TeilFunktionAnsicht(static_cast<frmTeilFunktion&>(c), p);

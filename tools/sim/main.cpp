@@ -1,1 +1,168 @@
-int main() { return 0; }
+// vemo0100-sim: an instrument at the far end of a pseudo-terminal, for trying and testing the links
+// without the hardware.
+#include "Instrumente.h"
+#include "PtyLeitung.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <csignal>
+#include <cstdio>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace vemo::sim;
+
+namespace {
+
+int stopSignal[2] = {-1, -1};
+
+void beiSignal(int) {
+    const char c = 1;
+    [[maybe_unused]] const auto n = ::write(stopSignal[1], &c, 1);
+}
+
+void melden(const QString& text) {
+    std::fprintf(stderr, "vemo0100-sim: %s\n", text.toLocal8Bit().constData());
+    std::fflush(stderr);
+}
+
+int abbruch(const QString& text) {
+    melden(text);
+    return 2;
+}
+
+struct Optionen {
+    const Instrumenttyp* typ = nullptr;
+    QByteArray speicher;
+    QString verknüpfung;
+    double drückenNach = -1;
+    Takt takt;
+};
+
+// Reads the options; an error text when they don't fit.
+QString optionenLesen(const QStringList& argumente, Optionen& o) {
+    QCommandLineParser p;
+    p.setApplicationDescription("Simulates an instrument on a pseudo-terminal.");
+    p.addHelpOption();
+    const QCommandLineOption typ("type", "Device type code of the instrument.", "CODE");
+    const QCommandLineOption speicher("memory", "Dump file the instrument holds, sent byte for byte.",
+                                      "FILE");
+    const QCommandLineOption datensätze("records", "Generate a memory of N records (default 5).", "N", "5");
+    const QCommandLineOption link("link", "Symbolic link to the serial device.", "PATH");
+    const QCommandLineOption drücken("press-after", "Press the send key after SECONDS.", "SECONDS");
+    const QCommandLineOption baud("baud", "Pace of the printout; 0 sends at once (default 2400).", "N",
+                                  "2400");
+    const QCommandLineOption pause("pause", "Pause before each closing empty line (default 250).", "MS",
+                                   "250");
+    p.addOptions({typ, speicher, datensätze, link, drücken, baud, pause});
+    p.process(argumente);
+
+    bool ok = false;
+    const int code = p.value(typ).toInt(&ok);
+    if (!p.isSet(typ) || !ok)
+        return "--type CODE is required";
+    o.typ = instrumenttyp(code);
+    if (!o.typ)
+        return QString("type %1 is not simulated").arg(p.value(typ));
+    if (p.isSet(speicher) && p.isSet(datensätze))
+        return "--memory and --records exclude each other";
+    if (p.isSet(speicher)) {
+        QFile datei(p.value(speicher));
+        if (!datei.open(QIODevice::ReadOnly))
+            return "cannot read " + datei.fileName() + ": " + datei.errorString();
+        o.speicher = datei.readAll();
+    } else {
+        const int n = p.value(datensätze).toInt(&ok);
+        if (!ok || n < 0)
+            return "--records needs a count";
+        o.speicher = o.typ->speicherErzeugen(n);
+    }
+    o.takt.baud = p.value(baud).toInt(&ok);
+    if (!ok || o.takt.baud < 0)
+        return "--baud needs a line speed";
+    o.takt.leerzeilenPause = p.value(pause).toInt(&ok);
+    if (!ok || o.takt.leerzeilenPause < 0)
+        return "--pause needs milliseconds";
+    if (p.isSet(drücken)) {
+        o.drückenNach = p.value(drücken).toDouble(&ok);
+        if (!ok || o.drückenNach < 0)
+            return "--press-after needs seconds";
+    }
+    o.verknüpfung = p.value(link);
+    return {};
+}
+
+// Replaces an old link, never a file that is something else.
+QString verknüpfen(const QString& gerät, const QString& pfad) {
+    const QFileInfo info(pfad);
+    if (info.isSymLink())
+        QFile::remove(pfad);
+    else if (info.exists())
+        return pfad + " exists and is not a link";
+    if (!QFile::link(gerät, pfad))
+        return "cannot link " + pfad;
+    return {};
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName("vemo0100-sim");
+
+    Optionen o;
+    if (const QString fehler = optionenLesen(app.arguments(), o); !fehler.isEmpty())
+        return abbruch(fehler);
+
+    QString fehler;
+    const auto leitung = PtyLeitung::öffnen(fehler);
+    if (!leitung)
+        return abbruch("no pseudo-terminal: " + fehler);
+    if (!o.verknüpfung.isEmpty())
+        if (const QString f = verknüpfen(leitung->gerätePfad(), o.verknüpfung); !f.isEmpty())
+            return abbruch(f);
+
+    const auto gerät = o.typ->erstellen(o.speicher, o.takt);
+    leitung->setInstrument(gerät.get());
+    QObject::connect(gerät.get(), &Instrument::sent,
+                     [](qint64 n) { melden(QString("sent %1 bytes").arg(n)); });
+    const auto drücken = [&gerät] {
+        melden("key pressed");
+        gerät->tasteGedrückt();
+    };
+
+    QSocketNotifier eingabe(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&eingabe, &QSocketNotifier::activated, [&] {
+        char puffer[256];
+        const ssize_t n = ::read(STDIN_FILENO, puffer, sizeof puffer);
+        if (n <= 0) {
+            eingabe.setEnabled(false);
+            return;
+        }
+        for (ssize_t i = 0; i < n; ++i)
+            if (puffer[i] == '\n')
+                drücken();
+    });
+    if (o.drückenNach >= 0)
+        QTimer::singleShot(int(o.drückenNach * 1000), drücken);
+
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, stopSignal) != 0)
+        return abbruch("no signal pipe");
+    QSocketNotifier stop(stopSignal[0], QSocketNotifier::Read);
+    QObject::connect(&stop, &QSocketNotifier::activated, &app, &QCoreApplication::quit);
+    std::signal(SIGTERM, beiSignal);
+    std::signal(SIGINT, beiSignal);
+
+    std::printf("%s\n", leitung->gerätePfad().toLocal8Bit().constData());
+    std::fflush(stdout);
+    melden(QString("type %1 on %2").arg(o.typ->code).arg(leitung->gerätePfad()));
+
+    const int ergebnis = app.exec();
+    if (!o.verknüpfung.isEmpty() && QFileInfo(o.verknüpfung).symLinkTarget() == leitung->gerätePfad())
+        QFile::remove(o.verknüpfung);
+    return ergebnis;
+}

@@ -1,0 +1,151 @@
+#include "support/Testumgebung.h"
+
+#include "PtyLeitung.h"
+#include "platform/CommPortAuswahl.h"
+#include "platform/CommPortSeriell.h"
+#include "platform/CommPortSpeicher.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QSignalSpy>
+
+namespace vemo::test {
+namespace {
+
+class CommPortTest : public Testumgebung {};
+
+int fehlernummer(const std::function<void()>& aufruf) {
+    try {
+        aufruf();
+    } catch (const Fehler& f) {
+        return f.nummer();
+    }
+    return 0;
+}
+
+// Lets the event loop run until something has come or a second has passed.
+QByteArray eingangAbwarten(CommPort& port) {
+    const QDeadlineTimer frist(1000);
+    QByteArray da;
+    while (da.isEmpty() && !frist.hasExpired()) {
+        QCoreApplication::processEvents();
+        da = port.Input();
+    }
+    return da;
+}
+
+TEST_F(CommPortTest, SpeicherpaarLiefertStueckweiseUndMeldetAbDerSchwelle) {
+    auto [a, b] = SpeicherCommPort::paar(16);
+    a->setPortOpen(true);
+    b->setPortOpen(true);
+    b->setRThreshold(20);
+    QSignalSpy ereignisse(b.get(), &CommPort::comm);
+
+    a->Output(QByteArray(40, 'x'));
+    EXPECT_EQ(b->InBufferCount(), 0) << "nothing arrives before the event loop runs";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(b->InBufferCount(), 16);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(b->InBufferCount(), 32);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(ereignisse.size(), 1);
+    EXPECT_EQ(ereignisse[0][0].toInt(), commEreignis::Empfangen);
+    EXPECT_EQ(b->CommEvent(), commEreignis::Empfangen);
+    EXPECT_EQ(b->Input(), QByteArray(40, 'x'));
+    EXPECT_EQ(b->InBufferCount(), 0);
+
+    // A closed end loses what reaches it; its partner's lines drop with it.
+    a->setRTSEnable(true);
+    EXPECT_TRUE(b->CTSHolding());
+    b->setPortOpen(false);
+    a->Output("verloren");
+    QCoreApplication::processEvents();
+    b->setPortOpen(true);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(b->Input(), QByteArray());
+    a->setPortOpen(false);
+    EXPECT_FALSE(b->CTSHolding());
+}
+
+TEST_F(CommPortTest, FalscheBedienungGibtDieFehlerDerSteuerung) {
+    auto [a, b] = SpeicherCommPort::paar();
+    EXPECT_EQ(fehlernummer([&] { a->Input(); }), fehler::PortNichtGeöffnet);
+    EXPECT_EQ(fehlernummer([&] { a->Output("x"); }), fehler::PortNichtGeöffnet);
+    a->setPortOpen(true);
+    EXPECT_EQ(fehlernummer([&] { a->setPortOpen(true); }), fehler::PortBereitsGeöffnet);
+    EXPECT_EQ(fehlernummer([&] { a->setGerät("anderes"); }), fehler::PortBereitsGeöffnet);
+    a->setSettings("2400,N,8,1");
+    EXPECT_EQ(fehlernummer([&] { a->setSettings("2400,X,8,1"); }), portfehler::UngültigerEigenschaftswert);
+    EXPECT_EQ(a->Settings(), "2400,N,8,1");
+
+    const auto p = Leitungsparameter::lesen("19200,e,7,1.5");
+    ASSERT_TRUE(p);
+    EXPECT_EQ(p->baud, 19200);
+    EXPECT_EQ(p->parität, 'E');
+    EXPECT_EQ(p->datenbits, 7);
+    EXPECT_EQ(p->stoppbits, "1.5");
+    for (const char* falsch : {"9600,N,8", "0,N,8,1", "9600,N,9,1", "9600,N,8,3", "", "schnell,N,8,1"})
+        EXPECT_FALSE(Leitungsparameter::lesen(falsch)) << falsch;
+}
+
+TEST_F(CommPortTest, EchterPortUeberPseudoterminal) {
+    SeriellerCommPort port;
+    EXPECT_EQ(fehlernummer([&] { port.setPortOpen(true); }), fehler::PortUngültig) << "no device set";
+    port.setGerät(pfad("gibt-es-nicht"));
+    try {
+        port.setPortOpen(true);
+        ADD_FAILURE();
+    } catch (const Fehler& f) {
+        EXPECT_EQ(f.nummer(), fehler::PortUngültig);
+        EXPECT_TRUE(f.beschreibung().contains("gibt-es-nicht"));
+    }
+    EXPECT_FALSE(port.PortOpen());
+
+    QString grund;
+    auto pty = sim::PtyLeitung::öffnen(grund);
+    ASSERT_TRUE(pty) << grund.toStdString();
+    port.setGerät(pty->gerätePfad());
+    port.setSettings("2400,N,8,1");
+    port.setHandshaking(Handshake::XonXoff);
+    port.setPortOpen(true);
+    // A pseudo-terminal has no modem lines: setting them fails quietly, the properties stay.
+    port.setRTSEnable(true);
+    port.setDTREnable(false);
+    EXPECT_TRUE(port.RTSEnable());
+    EXPECT_FALSE(port.DTREnable());
+
+    SeriellerCommPort zweiter;
+    zweiter.setGerät(pty->gerätePfad());
+    EXPECT_EQ(fehlernummer([&] { zweiter.setPortOpen(true); }), fehler::PortBereitsGeöffnet);
+
+    pty->senden("Zeile\r\n");
+    EXPECT_EQ(eingangAbwarten(port), "Zeile\r\n") << "CR LF arrive untranslated";
+
+    // The far end gone: silence, no error, and the port still closes.
+    pty.reset();
+    for (int i = 0; i < 5; ++i) {
+        QCoreApplication::processEvents();
+        EXPECT_EQ(port.Input(), QByteArray());
+    }
+    EXPECT_TRUE(port.PortOpen());
+    port.setPortOpen(false);
+    EXPECT_FALSE(port.PortOpen());
+}
+
+TEST_F(CommPortTest, PortnummerUndPfadWaehlenDasGeraet) {
+    EXPECT_EQ(portGerät(1), "/dev/ttyS0");
+    EXPECT_EQ(portGerät(12), "/dev/ttyS11");
+    EXPECT_EQ(portGerät(0), QString());
+    EXPECT_EQ(portGerät(-3), QString());
+    m_settings.SaveSetting("Ports", "COM3", " /dev/ttyUSB0 ");
+    EXPECT_EQ(portGerät(3), "/dev/ttyUSB0");
+    EXPECT_EQ(portGerät(4), "/dev/ttyS3");
+
+    modul().CommPort = 3;
+    EXPECT_EQ(modulPortGerät(), "/dev/ttyUSB0");
+    modul().portPfad = "/tmp/sim-port";
+    EXPECT_EQ(modulPortGerät(), "/tmp/sim-port");
+}
+
+} // namespace
+} // namespace vemo::test

@@ -1,0 +1,258 @@
+#include "LinkHilfen.h"
+#include "support/Testumgebung.h"
+
+#include "CorvexSpeicher.h"
+#include "MultitesterGeraet.h"
+#include "PortLeitung.h"
+#include "host/Arbeitsdateien.h"
+#include "links/DumpEmpfang.h"
+#include "links/Form2.h"
+
+#include <QFile>
+#include <QPointer>
+#include <QTimer>
+
+namespace vemo::test {
+namespace {
+
+const QByteArray CRLF = "\r\n";
+
+class DumpEmpfangTest : public Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        modul().CommPort = 1;
+    }
+    void TearDown() override {
+        EXPECT_FALSE(m_wachhund) << "the reception did not end by itself";
+        Testumgebung::TearDown();
+    }
+    QByteArray ruvo() const {
+        QFile f(arbeitsdatei(datei::Ruvo));
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
+    }
+    void ruvoVorbelegen(const QByteArray& inhalt) const {
+        QFile f(pfad("RUVO.SER"));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(inhalt);
+    }
+    // Calls the action once the wait dialog is shown, after the given milliseconds. A reception
+    // still running after five seconds is aborted, and the test fails instead of hanging.
+    void beimDialog(int ms, std::function<void(Form2&)> aktion) {
+        m_ui.beiDialog = [this, ms, aktion](DialogController& d) {
+            m_form = qobject_cast<Form2*>(&d);
+            ASSERT_NE(m_form, nullptr);
+            QTimer::singleShot(ms, m_form, [this, aktion] { aktion(*m_form); });
+            QTimer::singleShot(5000, m_form, [this] {
+                m_wachhund = true;
+                m_form->abbrechen();
+            });
+        };
+    }
+    // Sends the pieces one after the other, each in a turn of its own, the gap apart.
+    static void nacheinanderSenden(CommPort& ende, const QList<QByteArray>& stücke, int abstand) {
+        for (qsizetype i = 0; i < stücke.size(); ++i)
+            QTimer::singleShot(int(abstand * (i + 1)), &ende, [&ende, s = stücke[i]] { ende.Output(s); });
+    }
+
+    QPointer<Form2> m_form;
+    bool m_wachhund = false;
+};
+
+TEST_F(DumpEmpfangTest, EinDumpKommtUnverfaelschtUeberDasPseudoterminal) {
+    // Umlauts and signs of the Western code page, and a line of blanks, travel as they are.
+    QByteArray speicher = "RUVO GmbH 0100 Corvex\r\n------------------------\r\n4470D    No. 47110815001\r\n";
+    speicher += "S: 001    P: 003\r\n   \r\n Zs = 0,35 \xb5\x4f\x68m \xe4\xf6\xfc\xdf \xb0\x43\r\n";
+    QFile memory(pfad("speicher.txt"));
+    ASSERT_TRUE(memory.open(QIODevice::WriteOnly));
+    memory.write(speicher);
+    memory.close();
+    ruvoVorbelegen("ein alter Dump, der ersetzt wird\r\n");
+
+    Simulator sim({"--type", "100", "--memory", memory.fileName(), "--baud", "9600", "--pause", "60",
+                   "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    beimDialog(100, [&sim](Form2&) { sim.tasteDrücken(); });
+
+    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::Weiter);
+    EXPECT_EQ(ruvo(), speicher + CRLF + CRLF + CRLF);
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(m_ui.dialoge, QStringList{"vemo::Form2"});
+    EXPECT_TRUE(m_form.isNull()) << "the wait dialog is unloaded";
+}
+
+TEST_F(DumpEmpfangTest, DreiLeerzeilenInEigenenLesevorgaengenBeenden) {
+    auto instrument = speicherleitungEinstecken(0);
+    instrument->setPortOpen(true);
+    bool leitungenGesetzt = false;
+    beimDialog(10, [&](Form2&) {
+        // RTS on, DTR off, as the instrument sees them on its CTS and DSR.
+        leitungenGesetzt = instrument->CTSHolding() && !instrument->DSRHolding();
+        nacheinanderSenden(*instrument, {"Zeile 1\r\n", CRLF, "  \r\n", CRLF, "danach nichts mehr\r\n"}, 30);
+    });
+
+    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::Weiter);
+    EXPECT_TRUE(leitungenGesetzt);
+    EXPECT_EQ(ruvo(), "Zeile 1\r\n\r\n  \r\n\r\n") << "a line of blanks counts as empty";
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(modul().Empfangsende, 1);
+    EXPECT_FALSE(instrument->CTSHolding()) << "the port is closed";
+}
+
+TEST_F(DumpEmpfangTest, LeerzeilenMitDatenDazwischenOderInEinemStueckBeendenNicht) {
+    auto instrument = speicherleitungEinstecken(0);
+    instrument->setPortOpen(true);
+    // Two empty lines, data, two more, then two in one read where the third would be due.
+    const QList<QByteArray> stücke{"A\r\n", CRLF,       CRLF,    "B\r\n",    CRLF,
+                                   CRLF,    "\r\n\r\n", "C\r\n", "halbe Zei"};
+    QByteArray textZuletzt;
+    bool liefNoch = false;
+    beimDialog(10, [&](Form2& form) {
+        nacheinanderSenden(*instrument, stücke, 20);
+        QTimer::singleShot(20 * int(stücke.size()) + 200, &form, [&] {
+            liefNoch = modul().Empfangsende == 0 && form.istOffen();
+            textZuletzt = form.text().toLatin1();
+            form.enterGedrückt();
+        });
+    });
+
+    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::Weiter);
+    EXPECT_TRUE(liefNoch);
+    // Enter is a success; the half line without its end reaches neither file nor text box.
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(ruvo(), "A\r\n\r\n\r\nB\r\n\r\n\r\n\r\n\r\nC\r\n");
+    EXPECT_TRUE(textZuletzt.endsWith("\r\n\r\nC\r\n"));
+}
+
+TEST_F(DumpEmpfangTest, VorDemErstenByteGehtEsStillUndMitLeererDatei) {
+    struct Fall {
+        const char* name;
+        void (Form2::*aktion)();
+        qint16 abbruchmerker;
+    };
+    for (const Fall& fall : {Fall{"abort", &Form2::abbrechen, 1}, Fall{"Enter", &Form2::enterGedrückt, 0}}) {
+        SCOPED_TRACE(fall.name);
+        modul().Abbruchmerker = 0;
+        modul().Empfangsende = 0;
+        m_ui.meldungen.clear();
+        ruvoVorbelegen("der Dump von gestern\r\n");
+        auto instrument = speicherleitungEinstecken();
+        instrument->setPortOpen(true);
+        beimDialog(50, [&fall](Form2& form) { (form.*fall.aktion)(); });
+
+        EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::StillVerlassen);
+        EXPECT_EQ(ruvo(), QByteArray());
+        EXPECT_TRUE(m_ui.meldungen.isEmpty());
+        EXPECT_EQ(modul().Abbruchmerker, fall.abbruchmerker);
+        EXPECT_EQ(modul().Empfangsende, 0);
+        EXPECT_TRUE(m_form.isNull());
+    }
+}
+
+TEST_F(DumpEmpfangTest, AbbruchWaehrendDesEmpfangsLaesstWasKam) {
+    auto instrument = speicherleitungEinstecken(8);
+    sim::MultitesterGerät gerät(sim::corvexSpeicher(4), {9600, 50});
+    sim::PortLeitung leitung(*instrument, gerät);
+    beimDialog(20, [&](Form2& form) {
+        gerät.tasteGedrückt();
+        QObject::connect(&form, &Form2::aktualisiert, &form, [&form] {
+            if (form.text().count('\n') >= 3)
+                form.abbrechen();
+        });
+    });
+
+    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::Weiter);
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    const QByteArray datei = ruvo();
+    EXPECT_GE(datei.count('\n'), 3);
+    EXPECT_LT(datei.size(), gerät.ausdruck().size());
+    EXPECT_TRUE(gerät.ausdruck().startsWith(datei));
+}
+
+TEST_F(DumpEmpfangTest, GezogenesKabelHaengtNichtUndAbbruchBeendet) {
+    Simulator sim({"--type", "100", "--records", "30", "--baud", "2400", "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    bool gezogen = false;
+    beimDialog(100, [&](Form2& form) {
+        sim.tasteDrücken();
+        QObject::connect(&form, &Form2::aktualisiert, &form, [&] {
+            if (gezogen || form.text().isEmpty())
+                return;
+            gezogen = true;
+            sim.kabelZiehen();
+            QTimer::singleShot(300, &form, &Form2::abbrechen);
+        });
+    });
+
+    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::Weiter);
+    EXPECT_TRUE(gezogen);
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << "a dead line is silence";
+    const QByteArray datei = ruvo();
+    EXPECT_FALSE(datei.isEmpty());
+    EXPECT_TRUE(sim::corvexSpeicher(30).startsWith(datei));
+}
+
+TEST_F(DumpEmpfangTest, PortfehlerGehenAnDieFalleUndLassenDenAltenDump) {
+    ruvoVorbelegen("der Dump von gestern\r\n");
+
+    modul().portPfad = pfad("kein-port");
+    try {
+        dumpEmpfangen();
+        ADD_FAILURE() << "no error for a missing device";
+    } catch (const Fehler& f) {
+        EXPECT_EQ(f.nummer(), fehler::PortUngültig);
+        EXPECT_TRUE(f.beschreibung().contains(pfad("kein-port")));
+    }
+
+    auto instrument = speicherleitungEinstecken();
+    SpeicherCommPort* port = nullptr;
+    modul().commPortFabrik = [&port, fabrik = modul().commPortFabrik] {
+        auto p = fabrik();
+        p->setGerät("speicher:belegt");
+        p->setPortOpen(true);
+        port = static_cast<SpeicherCommPort*>(p.get());
+        return p;
+    };
+    try {
+        dumpEmpfangen();
+        ADD_FAILURE() << "no error for a port already open";
+    } catch (const Fehler& f) {
+        EXPECT_EQ(f.nummer(), fehler::PortBereitsGeöffnet);
+    }
+    EXPECT_NE(port, nullptr);
+    EXPECT_EQ(ruvo(), "der Dump von gestern\r\n");
+    EXPECT_TRUE(m_ui.dialoge.isEmpty());
+}
+
+TEST_F(DumpEmpfangTest, OhneHandshakeNurFuerDasVaritron) {
+    for (const auto& [selektor, erwartet] :
+         {std::pair{QString("Multitester = Deutsch"), Handshake::XonXoff},
+          std::pair{QString("Multitester = 0100-Varitron"), Handshake::Keins}}) {
+        SCOPED_TRACE(selektor.toStdString());
+        modul().Selektor() = selektor;
+        auto instrument = speicherleitungEinstecken();
+        const CommPort* port = nullptr;
+        modul().commPortFabrik = [&port, fabrik = modul().commPortFabrik] {
+            auto p = fabrik();
+            port = p.get();
+            return p;
+        };
+        Handshake gesehen = Handshake::RtsCts;
+        QString settings;
+        beimDialog(10, [&](Form2& form) {
+            gesehen = port->Handshaking();
+            settings = port->Settings();
+            form.abbrechen();
+        });
+        dumpEmpfangen();
+        EXPECT_EQ(gesehen, erwartet);
+        EXPECT_EQ(settings, "2400,N,8,1");
+    }
+}
+
+} // namespace
+} // namespace vemo::test
