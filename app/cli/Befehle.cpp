@@ -91,6 +91,17 @@ int deleteRows(const Optionen& o) {
     return mitKomponente(o, [&](Sitzung&) { return vemo::zeilenLöschenBefehl(*zeilen); });
 }
 
+int receive(const Optionen& o) {
+    if (o.port.isEmpty()) {
+        ausgeben("vemo0100: receive needs --port N|PATH");
+        return 2;
+    }
+    return mitKomponente(o, [](Sitzung& s) {
+        s.komponente().DatenEmpfangen();
+        return 0;
+    });
+}
+
 int takeOver(const Optionen& o) {
     return mitKomponente(o, [](Sitzung&) {
         vemo::EinleseDatenController form;
@@ -103,8 +114,8 @@ int takeOver(const Optionen& o) {
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
-        {"init-db", initDb}, {"read-file", readFile},     {"grid", grid},
-        {"assign", assign},  {"delete-rows", deleteRows}, {"take-over", takeOver},
+        {"init-db", initDb},         {"read-file", readFile}, {"grid", grid},       {"assign", assign},
+        {"delete-rows", deleteRows}, {"take-over", takeOver}, {"receive", receive},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

@@ -1,5 +1,7 @@
 #include "Sitzung.h"
 
+#include "Empfangskonsole.h"
+
 #include "host/ModulState.h"
 #include "platform/Zahlformat.h"
 
@@ -7,12 +9,14 @@
 
 using namespace vemo;
 
-Sitzung::Sitzung(const Optionen& o) : m_ui(o.ja) {
+Sitzung::Sitzung(const Optionen& o)
+    : m_ui(o.befehl == "receive" ? std::make_unique<Empfangskonsole>(o.ja)
+                                 : std::make_unique<KonsolenUi>(o.ja)) {
     m_settings = o.settings.isEmpty()
                      ? std::unique_ptr<SettingsStore>(QtSettingsStore::proBenutzer("vemotrix"))
                      : std::unique_ptr<SettingsStore>(QtSettingsStore::inDatei(o.settings));
     modulNeuLaden();
-    m_komponente = std::make_unique<vemo0100Modul15a>(m_ui, *m_settings);
+    m_komponente = std::make_unique<vemo0100Modul15a>(*m_ui, *m_settings);
     vemo0100Modul15a& k = *m_komponente;
     k.setVemotrixDBName(o.db);
     if (!bereit())

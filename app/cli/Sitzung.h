@@ -19,10 +19,9 @@ public:
     int ergebnis() const;
 
     vemo0100Modul15a& komponente() { return *m_komponente; }
-    vemo::KonsolenUi& ui() { return m_ui; }
 
 private:
-    vemo::KonsolenUi m_ui;
+    std::unique_ptr<vemo::KonsolenUi> m_ui;
     std::unique_ptr<vemo::SettingsStore> m_settings;
     std::unique_ptr<vemo0100Modul15a> m_komponente;
 };

@@ -3,6 +3,7 @@
 #include "host/Dateinummern.h"
 #include "host/Geraetetypen.h"
 #include "host/ModulState.h"
+#include "links/DumpEmpfang.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Ui.h"
 #include "store/Variant.h"
@@ -33,8 +34,9 @@ const std::map<QString, std::function<Ausgang()>>& verbindungen() {
     return tabelle;
 }
 
+// The printed dump of the Multitester and Corvex instruments.
 Ausgang dumpEmpfang() {
-    return nochNichtVerfügbar();
+    return dumpEmpfangen() == EmpfangsErgebnis::StillVerlassen ? Ausgang::Verlassen : Ausgang::Weiter;
 }
 
 } // namespace
