@@ -1,0 +1,101 @@
+#include "links/LinkHilfen.h"
+#include "support/Testumgebung.h"
+
+#include "MultitesterGeraet.h"
+#include "PortLeitung.h"
+#include "host/Arbeitsdateien.h"
+#include "host/Modul15a.h"
+#include "links/Form2.h"
+#include "store/Variant.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPointer>
+#include <QTimer>
+
+using namespace vemo;
+
+namespace {
+
+QByteArray lesen(const QString& pfad) {
+    QFile f(pfad);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// The driver with an instrument on the in-memory line: the dump of the sample board report.
+class TransferTest : public test::Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        QDir(m_dir.path()).mkpath("sicherung");
+        m_komponente = std::make_unique<vemo0100Modul15a>(m_ui, m_settings);
+        m_komponente->setVemotrixDBName(m_dbPfad);
+        m_komponente->setBackupVerzeichnis(pfad("sicherung"));
+        m_komponente->setCommPort(1);
+        m_komponente->setPrüfgeräteTypID(100);
+        m_leitung = test::speicherleitungEinstecken(16);
+    }
+    void TearDown() override {
+        EXPECT_FALSE(m_wachhund) << "the reception did not end by itself";
+        m_komponente.reset();
+        Testumgebung::TearDown();
+    }
+
+    // Does what the user does once the wait dialog shows; a reception still open after five
+    // seconds is aborted and the test fails instead of hanging.
+    void imDialog(const std::function<void(Form2&)>& aktion) {
+        m_ui.beiDialog = [this, aktion](DialogController& d) {
+            QPointer<Form2> form = qobject_cast<Form2*>(&d);
+            ASSERT_TRUE(form);
+            aktion(*form);
+            QTimer::singleShot(5000, form, [this, form] {
+                m_wachhund = true;
+                form->abbrechen();
+            });
+        };
+    }
+    QStringList sicherungen() const { return QDir(pfad("sicherung")).entryList(QDir::Files); }
+
+    std::unique_ptr<vemo0100Modul15a> m_komponente;
+    std::unique_ptr<SpeicherCommPort> m_leitung;
+    bool m_wachhund = false;
+};
+
+TEST_F(TransferTest, AReceivedDumpIsParsedAndCopied) {
+    const QByteArray dump = lesen(test::quelle("samples/corvex-verteilung.ser"));
+    sim::MultitesterGerät gerät(dump, {0, 60});
+    sim::PortLeitung leitung(*m_leitung, gerät);
+    imDialog([&gerät](Form2& form) { QTimer::singleShot(100, &form, [&gerät] { gerät.tasteGedrückt(); }); });
+
+    m_komponente->DatenEmpfangen();
+
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 14);
+    // A serial transfer registers the instrument it did not know.
+    EXPECT_EQ(wert("SELECT Seriennummer FROM Prüfgerät WHERE typ = 100"), "98120-00471");
+    EXPECT_EQ(wert("SELECT PrüfgerätID FROM 0100_EinleseGeräteDaten"), text(m_komponente->PrüfgerätID()));
+    ASSERT_EQ(sicherungen(), QStringList{"00000001.ser"});
+    EXPECT_EQ(lesen(pfad("sicherung/00000001.ser")), lesen(arbeitsdatei(datei::Ruvo)));
+    EXPECT_TRUE(lesen(arbeitsdatei(datei::Ruvo)).startsWith(dump));
+    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000001");
+}
+
+TEST_F(TransferTest, AnAbortDuringReceptionKeepsWhatCameAndParsesNothing) {
+    sim::MultitesterGerät gerät(lesen(test::quelle("samples/corvex-verteilung.ser")), {2400, 60});
+    sim::PortLeitung leitung(*m_leitung, gerät);
+    imDialog([&gerät](Form2& form) {
+        QTimer::singleShot(100, &form, [&gerät] { gerät.tasteGedrückt(); });
+        QTimer::singleShot(900, &form, [&form] { form.abbrechen(); });
+    });
+
+    m_komponente->DatenEmpfangen();
+
+    EXPECT_EQ(m_ui.texte(), QStringList{"Datenübertragung abgebrochen"});
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+    EXPECT_TRUE(sicherungen().isEmpty());
+    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "");
+    EXPECT_FALSE(lesen(arbeitsdatei(datei::Ruvo)).isEmpty());
+}
+
+} // namespace
