@@ -54,7 +54,8 @@ Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstell
     eigenschaftenÜbernehmen();
     if (const QString db = gemerkt("Datenbank"); !db.isEmpty())
         datenbankSetzen(db);
-    spracheSetzen(gemerkt("Sprache", "Deutsch (&Deutschland)"));
+    else
+        beschriften();
     resize(1100, 700);
 }
 
@@ -175,8 +176,8 @@ void Hauptfenster::datenbankSetzen(const QString& pfad) {
         m_backup->setText(modul().Datenbankverzeichnis);
         eigenschaftenÜbernehmen();
     }
-    spracheSetzen(m_komponente.Sprache().isEmpty() ? QString("Deutsch (&Deutschland)")
-                                                   : m_komponente.Sprache());
+    // The language is written after the database, whose directory holds the language database.
+    spracheSetzen(gemerkt("Sprache", "Deutsch (&Deutschland)"));
 }
 
 void Hauptfenster::spracheSetzen(const QString& sprache) {

@@ -45,6 +45,13 @@ const std::vector<Stufe>& stufen() {
 
 const QStringList Kopfspalten{"Datum", "Uhrzeit", "Funktion", "Messwert", "Einheit"};
 
+// The limit of a value column: the column of that name, for the tripping time its window.
+QString grenzwertZu(const Recordset& grenz, const QString& spalte) {
+    if (spalte == "FIT")
+        return (grenz.Text("FIT MIN") + " " + grenz.Text("FIT MAX")).trimmed();
+    return grenz.FieldIndex(spalte) >= 0 ? grenz.Text(spalte) : QString();
+}
+
 } // namespace
 
 Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
@@ -120,46 +127,56 @@ void Uebersicht::messungenZeigen(QTreeWidgetItem* knoten) {
         return;
     mitFalle([&] {
         struct Zeile {
-            QStringList kopf;
             QMap<QString, QString> wert, grenze;
         };
         std::vector<Zeile> zeilen;
-        QStringList spalten; // the value columns that hold anything, in table order
+        // The columns that hold a measured value in some row, in table order, each followed by its
+        // limit; the columns of the heading lines only where they hold anything.
+        QStringList köpfe, spalten;
         Recordset mess = db().OpenRecordset("SELECT * FROM 0100_Messung WHERE StromkreisID = " +
                                             text(knoten->data(0, Schlüssel)) + " ORDER BY MessID");
         for (; !mess.Eof(); mess.MoveNext()) {
             const Recordset grenz =
                 db().OpenRecordset("SELECT * FROM 0100_Grenzwert WHERE MessID = " + mess.Text("MessID"));
             Zeile z;
-            for (const QString& k : Kopfspalten)
-                z.kopf << mess.Text(k);
             for (int i = 0; i < mess.FieldCount(); ++i) {
                 const QString name = mess.FieldName(i);
-                if (name == "MessID" || name == "StromkreisID" || Kopfspalten.contains(name))
+                if (name == "MessID" || name == "StromkreisID" || mess.Text(name).isEmpty())
                     continue;
                 z.wert[name] = mess.Text(name);
-                if (!grenz.Eof() && grenz.FieldIndex(name) >= 0)
-                    z.grenze[name] = grenz.Text(name);
-                if ((!z.wert[name].isEmpty() || !z.grenze[name].isEmpty()) && !spalten.contains(name))
+                if (!grenz.Eof())
+                    z.grenze[name] = grenzwertZu(grenz, name);
+                if (!köpfe.contains(name) && Kopfspalten.contains(name))
+                    köpfe << name;
+                if (!spalten.contains(name) && !Kopfspalten.contains(name))
                     spalten << name;
             }
             zeilen.push_back(z);
         }
-        QStringList köpfe;
-        for (const QString& k : Kopfspalten)
-            köpfe << xText(k);
-        for (const QString& w : spalten)
-            köpfe << w << w + " " + xText("Grenzwert");
-        m_messungen->setColumnCount(int(köpfe.size()));
-        m_messungen->setHorizontalHeaderLabels(köpfe);
+        QStringList überschriften;
+        for (const QString& k : köpfe)
+            überschriften << xText(k);
+        const Recordset grenzSpalten = db().OpenRecordset("SELECT * FROM 0100_Grenzwert WHERE MessID = -1");
+        const auto hatGrenzwert = [&](const QString& w) {
+            return w == "FIT" || grenzSpalten.FieldIndex(w) >= 0;
+        };
+        for (const QString& w : spalten) {
+            überschriften << w;
+            if (hatGrenzwert(w))
+                überschriften << w + " " + xText("Grenzwert");
+        }
+        m_messungen->setColumnCount(int(überschriften.size()));
+        m_messungen->setHorizontalHeaderLabels(überschriften);
         m_messungen->setRowCount(int(zeilen.size()));
         for (int r = 0; r < int(zeilen.size()); ++r) {
             const Zeile& z = zeilen[size_t(r)];
             int c = 0;
-            for (const QString& t : z.kopf)
-                m_messungen->setItem(r, c++, new QTableWidgetItem(t));
+            for (const QString& k : köpfe)
+                m_messungen->setItem(r, c++, new QTableWidgetItem(z.wert.value(k)));
             for (const QString& w : spalten) {
                 m_messungen->setItem(r, c++, new QTableWidgetItem(z.wert.value(w)));
+                if (!hatGrenzwert(w))
+                    continue;
                 auto* grenze = new QTableWidgetItem(z.grenze.value(w));
                 grenze->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
                 m_messungen->setItem(r, c++, grenze);

@@ -2,6 +2,7 @@
 
 #include "platform/Dialog.h"
 #include "platform/KonsolenUi.h"
+#include "platform/Zentrieren.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -88,6 +89,7 @@ QDialog* QtUi::ansichtErstellen(DialogController& dialog) {
     if (it == tabelle.end())
         return nullptr;
     QDialog* view = it->second(dialog, m_hauptfenster);
+    DialogZentrieren(*view, m_hauptfenster);
     QObject::connect(&dialog, &DialogController::geschlossen, view, [view](int) { view->close(); });
     return view;
 }
