@@ -9,8 +9,7 @@
 
 namespace vemo {
 
-namespace {
-bool istZahlTyp(const QVariant& v) {
+bool istZahl(const QVariant& v) {
     switch (v.typeId()) {
     case QMetaType::Int:
     case QMetaType::UInt:
@@ -26,7 +25,6 @@ bool istZahlTyp(const QVariant& v) {
         return false;
     }
 }
-} // namespace
 
 QString text(const QVariant& v) {
     if (istLeer(v))
@@ -57,7 +55,7 @@ double zahl(const QVariant& v) {
         return 0;
     if (v.typeId() == QMetaType::Bool)
         return v.toBool() ? -1 : 0;
-    if (istZahlTyp(v))
+    if (istZahl(v))
         return v.toDouble();
     if (const auto d = zahlformat::zahl(v.toString()))
         return *d;
@@ -73,8 +71,8 @@ qint64 ganzzahl(const QVariant& v) {
 bool gleich(const QVariant& a, const QVariant& b) {
     if (istNull(a) || istNull(b))
         return false;
-    const bool zahlA = istZahlTyp(a) || istEmpty(a);
-    const bool zahlB = istZahlTyp(b) || istEmpty(b);
+    const bool zahlA = istZahl(a) || istEmpty(a);
+    const bool zahlB = istZahl(b) || istEmpty(b);
     if (zahlA || zahlB) {
         const auto x = zahlA ? std::optional<double>(zahl(a)) : zahlformat::zahl(a.toString());
         const auto y = zahlB ? std::optional<double>(zahl(b)) : zahlformat::zahl(b.toString());

@@ -19,6 +19,9 @@ inline bool istLeer(const QVariant& v) {
     return !v.isValid() || v.isNull();
 }
 
+// Whether the value is held as a number (a truth value counts, as -1 and 0).
+bool istZahl(const QVariant& v);
+
 // The value appended to an empty text: Null and Empty give "", numbers and dates are written in
 // the one number locale.
 QString text(const QVariant& v);

@@ -103,27 +103,10 @@ Typklasse typklasse(const QString& deklariert) {
 
 namespace {
 
-bool istZahlVariant(const QVariant& v) {
-    switch (v.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-    case QMetaType::Float:
-        return true;
-    default:
-        return false;
-    }
-}
-
 QVariant alsZahl(const QVariant& wert) {
     if (wert.typeId() == QMetaType::Bool)
         return qlonglong(wert.toBool() ? -1 : 0);
-    if (istZahlVariant(wert))
+    if (istZahl(wert))
         return wert.typeId() == QMetaType::Double || wert.typeId() == QMetaType::Float
                    ? QVariant(wert.toDouble())
                    : QVariant(wert.toLongLong());
