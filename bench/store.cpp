@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
+#include <functional>
 #include <sqlite3.h>
 
 using namespace vemo;
@@ -51,7 +52,10 @@ void RecordsetMitNeueID(benchmark::State& state) {
         benchmark::Counter(double(Zeilen) * double(state.iterations()), benchmark::Counter::kIsRate);
 }
 
-void SqliteEineTransaktion(benchmark::State& state) {
+// Bare SQLite on a fresh database in WAL with synchronous=NORMAL: the preparation runs untimed, then
+// the rows are written by the given statements.
+void sqliteMessen(benchmark::State& state, const char* vorbereitung,
+                  const std::function<void(sqlite3*)>& schreiben) {
     for (auto _ : state) {
         state.PauseTiming();
         QTemporaryDir dir;
@@ -59,18 +63,9 @@ void SqliteEineTransaktion(benchmark::State& state) {
         sqlite3* db = nullptr;
         sqlite3_open(pfad.constData(), &db);
         sqlite3_exec(db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;", nullptr, nullptr, nullptr);
+        sqlite3_exec(db, vorbereitung, nullptr, nullptr, nullptr);
         state.ResumeTiming();
-        sqlite3_stmt* s = nullptr;
-        sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
-        sqlite3_prepare_v2(db, "INSERT INTO \"0100_EinleseMessDaten\" VALUES (?1, 'RISO', '245', 'MOhm')", -1,
-                           &s, nullptr);
-        for (int i = 0; i < Zeilen; ++i) {
-            sqlite3_bind_int(s, 1, 10000 + i);
-            sqlite3_step(s);
-            sqlite3_reset(s);
-        }
-        sqlite3_finalize(s);
-        sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+        schreiben(db);
         state.PauseTiming();
         sqlite3_close(db);
         state.ResumeTiming();
@@ -79,40 +74,40 @@ void SqliteEineTransaktion(benchmark::State& state) {
         benchmark::Counter(double(Zeilen) * double(state.iterations()), benchmark::Counter::kIsRate);
 }
 
-// What the commits alone cost: per row the counter's update and the insert, each committing by itself.
-void SqliteZweiCommitsJeZeile(benchmark::State& state) {
-    for (auto _ : state) {
-        state.PauseTiming();
-        QTemporaryDir dir;
-        const QByteArray pfad = frischeDatenbank(dir).toUtf8();
-        sqlite3* db = nullptr;
-        sqlite3_open(pfad.constData(), &db);
-        sqlite3_exec(db,
-                     "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;"
-                     "INSERT INTO IDIncrement VALUES (1, 0, '0100_EinleseDaten', 10000);",
-                     nullptr, nullptr, nullptr);
-        state.ResumeTiming();
-        sqlite3_stmt* zähler = nullptr;
-        sqlite3_stmt* s = nullptr;
-        sqlite3_prepare_v2(db, "UPDATE IDIncrement SET LastID = LastID + 1 WHERE rowid = 1", -1, &zähler,
-                           nullptr);
-        sqlite3_prepare_v2(db, "INSERT INTO \"0100_EinleseMessDaten\" VALUES (?1, 'RISO', '245', 'MOhm')", -1,
-                           &s, nullptr);
-        for (int i = 0; i < Zeilen; ++i) {
+void zeilenEinfügen(sqlite3* db, sqlite3_stmt* zähler) {
+    sqlite3_stmt* s = nullptr;
+    sqlite3_prepare_v2(db, "INSERT INTO \"0100_EinleseMessDaten\" VALUES (?1, 'RISO', '245', 'MOhm')", -1, &s,
+                       nullptr);
+    for (int i = 0; i < Zeilen; ++i) {
+        if (zähler) {
             sqlite3_step(zähler);
             sqlite3_reset(zähler);
-            sqlite3_bind_int(s, 1, 10000 + i);
-            sqlite3_step(s);
-            sqlite3_reset(s);
         }
-        sqlite3_finalize(zähler);
-        sqlite3_finalize(s);
-        state.PauseTiming();
-        sqlite3_close(db);
-        state.ResumeTiming();
+        sqlite3_bind_int(s, 1, 10000 + i);
+        sqlite3_step(s);
+        sqlite3_reset(s);
     }
-    state.counters["rows/s"] =
-        benchmark::Counter(double(Zeilen) * double(state.iterations()), benchmark::Counter::kIsRate);
+    sqlite3_finalize(s);
+}
+
+void SqliteEineTransaktion(benchmark::State& state) {
+    sqliteMessen(state, "", [](sqlite3* db) {
+        sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
+        zeilenEinfügen(db, nullptr);
+        sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+    });
+}
+
+// What the commits alone cost: per row the counter's update and the insert, each committing by itself.
+void SqliteZweiCommitsJeZeile(benchmark::State& state) {
+    sqliteMessen(state, "INSERT INTO IDIncrement VALUES (1, 0, '0100_EinleseDaten', 10000);",
+                 [](sqlite3* db) {
+                     sqlite3_stmt* zähler = nullptr;
+                     sqlite3_prepare_v2(db, "UPDATE IDIncrement SET LastID = LastID + 1 WHERE rowid = 1", -1,
+                                        &zähler, nullptr);
+                     zeilenEinfügen(db, zähler);
+                     sqlite3_finalize(zähler);
+                 });
 }
 
 } // namespace
