@@ -1,5 +1,7 @@
 #include "links/DumpEmpfang.h"
 
+#include "platform/Blanks.h"
+
 #include "host/Arbeitsdateien.h"
 #include "host/ModulState.h"
 #include "links/Form2.h"
@@ -60,13 +62,7 @@ void schreiben(QFile& datei, const QByteArray& bytes) {
 
 // Only blanks are trimmed, so a line of blanks before its CR LF counts as empty too.
 bool nurZeilenende(const QByteArray& puffer) {
-    qsizetype anfang = 0;
-    qsizetype ende = puffer.size();
-    while (anfang < ende && puffer[anfang] == ' ')
-        ++anfang;
-    while (ende > anfang && puffer[ende - 1] == ' ')
-        --ende;
-    return puffer.sliced(anfang, ende - anfang) == "\r\n";
+    return ohneRandblanks(puffer) == "\r\n";
 }
 
 // Nothing when the wait was left through Empfangsende (abort, or Enter before any data).
