@@ -1,8 +1,8 @@
 // How fast the dump reception takes in a memory that arrives in pieces of 64 bytes, one piece a
 // turn of the event loop: the cost of the polling loop, the file and the text box per piece.
 #include "links/DumpEmpfang.h"
-#include "host/Arbeitsdateien.h"
-#include "host/ModulState.h"
+#include "core/Arbeitsdateien.h"
+#include "core/ModulState.h"
 #include "links/Form2.h"
 #include "platform/AufzeichnungsUi.h"
 #include "platform/CommPortSpeicher.h"

@@ -1,8 +1,8 @@
 // The refresh of the read-in grid over many rows: once with every key already settled (the
 // refresh after an edit or a partial take-over), once from typed numbers only, where the refresh
 // writes the customer and plant keys over several passes.
+#include "core/ModulState.h"
 #include "grid/EinleseDatenController.h"
-#include "host/ModulState.h"
 #include "platform/AufzeichnungsUi.h"
 #include "platform/SettingsStore.h"
 #include "store/Schema.h"

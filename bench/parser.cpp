@@ -1,12 +1,12 @@
 // Reading a large report dump into the read-in tables: time per dump, and the peak memory the
 // process reaches (ru_maxrss), which should grow with the rows kept, not with the dump.
-#include "host/Arbeitsdateien.h"
-#include "host/ModulState.h"
+#include "core/Arbeitsdateien.h"
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/AufzeichnungsUi.h"
 #include "platform/SettingsStore.h"
 #include "store/Schema.h"
-#include "store/Schluessel.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 // The cost of a translation: every caption of every dialog passes xText on load, and a text the
 // language database does not know yet is added to it, which reads the whole table once.
 
-#include "language/Sprachen.h"
+#include "core/Sprachen.h"
 #include "language/SprachDatenbank.h"
 
 #include <QTemporaryDir>

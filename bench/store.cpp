@@ -1,11 +1,11 @@
 // Staging rows through the record set, each Update committing by itself with a key from NeueID,
 // against the same rows inserted by plain SQLite in one transaction.
-#include "host/ModulState.h"
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
 #include "platform/KonsolenUi.h"
 #include "store/Datenbank.h"
 #include "store/Recordset.h"
 #include "store/Schema.h"
-#include "store/Schluessel.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

@@ -1,13 +1,13 @@
 // The take-over of read-in rows with seven values each into the inspection records, for 1,000 and
 // 2,000 rows: the rows spread over boards of ten circuits, as a dump of a building does.
 #include "takeover/Uebernahme.h"
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
 #include "grid/EinleseDatenController.h"
-#include "host/ModulState.h"
 #include "platform/KonsolenUi.h"
 #include "platform/SettingsStore.h"
 #include "store/Datenbank.h"
 #include "store/Schema.h"
-#include "store/Schluessel.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -5,7 +5,7 @@
 #include "grid/EinleseDatenController.h"
 #include "grid/GridBefehle.h"
 #include "language/SprachDatenbank.h"
-#include "store/Fehler.h"
+#include "platform/Fehler.h"
 #include "store/Schema.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "Empfangskonsole.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "links/Form2.h"
 
 #include <QSocketNotifier>

@@ -2,7 +2,7 @@
 
 #include "Empfangskonsole.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "platform/Zahlformat.h"
 
 #include <QFileInfo>
@@ -16,6 +16,9 @@ Sitzung::Sitzung(const Optionen& o)
                      ? std::unique_ptr<SettingsStore>(QtSettingsStore::proBenutzer("vemotrix"))
                      : std::unique_ptr<SettingsStore>(QtSettingsStore::inDatei(o.settings));
     modulNeuLaden();
+    // The number locale is part of the module state: the system's unless the user named one.
+    if (!o.locale.isEmpty())
+        zahlformat::setzen(QLocale(o.locale));
     m_komponente = std::make_unique<vemo0100Modul15a>(*m_ui, *m_settings);
     vemo0100Modul15a& k = *m_komponente;
     k.setVemotrixDBName(o.db);

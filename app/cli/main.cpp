@@ -1,8 +1,6 @@
 #include "Befehle.h"
 #include "Optionen.h"
 
-#include "platform/Zahlformat.h"
-
 #include <QCoreApplication>
 #include <cstdio>
 
@@ -15,9 +13,5 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "vemo0100: %s\n%s", fehler.toLocal8Bit().constData(), Gebrauch);
         return 2;
     }
-    if (optionen->locale.isEmpty())
-        vemo::zahlformat::ausUmgebung();
-    else
-        vemo::zahlformat::setzen(QLocale(optionen->locale));
     return befehlAusführen(*optionen);
 }

@@ -2,9 +2,9 @@
 
 #include "Uebersicht.h"
 
-#include "host/Geraetetypen.h"
+#include "core/Geraetetypen.h"
+#include "core/ModulState.h"
 #include "host/Modul15a.h"
-#include "host/ModulState.h"
 #include "language/SprachDatenbank.h"
 #include "platform/SettingsStore.h"
 #include "platform/Ui.h"

@@ -1,6 +1,6 @@
 #include "Uebersicht.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 

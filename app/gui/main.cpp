@@ -1,17 +1,15 @@
 #include "Hauptfenster.h"
 
+#include "ansichten/Ansichten.h"
 #include "host/Modul15a.h"
-#include "platform/QtUi.h"
 #include "platform/SettingsStore.h"
-#include "platform/Zahlformat.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("vemotrix");
-    vemo::zahlformat::ausUmgebung();
-    vemo::QtUi ui;
+    vemo::QtUi ui(vemo::ansichten());
     const auto einstellungen = vemo::QtSettingsStore::proBenutzer("vemotrix");
     vemo0100Modul15a komponente(ui, *einstellungen);
     Hauptfenster fenster(komponente, *einstellungen);

@@ -1,9 +1,9 @@
 #include "grid/ComboListe.h"
 
+#include "core/ModulState.h"
 #include "grid/Anzeigetext.h"
-#include "host/ModulState.h"
+#include "grid/GrundText.h"
 #include "store/Variant.h"
-#include "takeover/GrundText.h"
 
 #include <array>
 

@@ -1,9 +1,9 @@
 #include "grid/EinleseDatenController.h"
 
+#include "core/ModulState.h"
 #include "grid/Sanduhr.h"
 #include "grid/Sprachregel.h"
 #include "grid/Zuordnung.h"
-#include "host/ModulState.h"
 #include "platform/SettingsStore.h"
 #include "platform/Ui.h"
 #include "store/Variant.h"
@@ -30,8 +30,7 @@ const std::array<const char*, EinleseGrid::Cols> Kopftexte{
     "Nr.", "Kunde", "Anlage", "Prüfung", "Verteiler", "Stromkreis", "Messzeitpunkt"};
 
 Datenübernahme& eingesetzteÜbernahme() {
-    static Datenübernahme übernahme;
-    return übernahme;
+    return modul().datenübernahme;
 }
 
 } // namespace

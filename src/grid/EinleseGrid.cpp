@@ -1,6 +1,6 @@
 #include "grid/EinleseGrid.h"
 
-#include "store/Fehler.h"
+#include "platform/Fehler.h"
 
 namespace vemo {
 

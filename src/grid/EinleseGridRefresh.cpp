@@ -1,9 +1,9 @@
+#include "core/ModulState.h"
 #include "grid/EinleseDatenController.h"
 #include "grid/GridAbfrage.h"
 #include "grid/GridDurchlauf.h"
 #include "grid/Sanduhr.h"
 #include "grid/Sprachregel.h"
-#include "host/ModulState.h"
 
 namespace vemo {
 

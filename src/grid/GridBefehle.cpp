@@ -1,7 +1,7 @@
 #include "grid/GridBefehle.h"
 
+#include "core/ModulState.h"
 #include "grid/EinleseDatenController.h"
-#include "host/ModulState.h"
 #include "platform/Ui.h"
 #include "store/Variant.h"
 

@@ -1,10 +1,10 @@
 #include "grid/GridDurchlauf.h"
 
+#include "core/ModulState.h"
 #include "grid/Anzeigetext.h"
-#include "host/ModulState.h"
+#include "grid/GrundText.h"
 #include "platform/Zahlformat.h"
 #include "store/Variant.h"
-#include "takeover/GrundText.h"
 
 #include <QDate>
 

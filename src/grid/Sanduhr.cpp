@@ -1,6 +1,6 @@
 #include "grid/Sanduhr.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "platform/Ui.h"
 
 namespace vemo {

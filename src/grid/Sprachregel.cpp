@@ -1,6 +1,6 @@
 #include "grid/Sprachregel.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 
 namespace vemo {
 

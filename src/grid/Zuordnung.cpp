@@ -1,6 +1,6 @@
 #include "grid/Zuordnung.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "store/Variant.h"
 
 namespace vemo {

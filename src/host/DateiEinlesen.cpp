@@ -1,9 +1,9 @@
 #include "host/DateiEinlesen.h"
 
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
+#include "core/Geraetetypen.h"
+#include "core/ModulState.h"
 #include "host/Dateinummern.h"
-#include "host/Geraetetypen.h"
-#include "host/ModulState.h"
 #include "host/Transfer.h"
 #include "links/SorelinErkennung.h"
 #include "parsers/EinlesenVonDatei.h"

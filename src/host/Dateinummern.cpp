@@ -1,8 +1,8 @@
 #include "host/Dateinummern.h"
 
-#include "host/Arbeitsdateien.h"
-#include "host/Geraetetypen.h"
-#include "host/ModulState.h"
+#include "core/Arbeitsdateien.h"
+#include "core/Geraetetypen.h"
+#include "core/ModulState.h"
 #include "platform/SettingsStore.h"
 #include "platform/Zahlformat.h"
 #include "store/Variant.h"

@@ -1,13 +1,13 @@
 #include "host/Modul15a.h"
 
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
 #include "grid/EinleseDatenController.h"
 #include "host/DateiEinlesen.h"
-#include "host/ModulState.h"
 #include "host/Transfer.h"
 #include "host/Worttabellen.h"
 #include "language/SprachDatenbank.h"
 #include "platform/Ui.h"
-#include "store/Schluessel.h"
 #include "takeover/Uebernahme.h"
 
 #include <QDir>
@@ -24,7 +24,7 @@ void nichtVerfügbar() {
 
 } // namespace
 
-vemo0100Modul15a::vemo0100Modul15a(Ui& u, SettingsStore& s) {
+vemo0100Modul15a::vemo0100Modul15a(Ui& u, SettingsStore& s) : m_ui(&u), m_settings(&s) {
     modul().ui = &u;
     modul().settings = &s;
     modul().anwendungstitel = "vemotrix professional";
@@ -34,6 +34,11 @@ vemo0100Modul15a::vemo0100Modul15a(Ui& u, SettingsStore& s) {
 vemo0100Modul15a::~vemo0100Modul15a() {
     NeueID("", "");
     modul().db.Close();
+    // The host's window and settings may go before the component's module state does.
+    if (modul().ui == m_ui)
+        modul().ui = nullptr;
+    if (modul().settings == m_settings)
+        modul().settings = nullptr;
 }
 
 Datenbank vemo0100Modul15a::vemotrixDB() const {

@@ -68,4 +68,6 @@ public:
 
 private:
     QString m_sprache;
+    vemo::Ui* m_ui;
+    vemo::SettingsStore* m_settings;
 };

@@ -1,8 +1,8 @@
 #include "host/Transfer.h"
 
+#include "core/Geraetetypen.h"
+#include "core/ModulState.h"
 #include "host/Dateinummern.h"
-#include "host/Geraetetypen.h"
-#include "host/ModulState.h"
 #include "links/DumpEmpfang.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Ui.h"

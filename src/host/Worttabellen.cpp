@@ -1,7 +1,7 @@
 #include "host/Worttabellen.h"
 
-#include "host/Arbeitsdateien.h"
-#include "host/ModulState.h"
+#include "core/Arbeitsdateien.h"
+#include "core/ModulState.h"
 #include "platform/SettingsStore.h"
 #include "platform/Textdatei.h"
 #include "platform/Ui.h"

@@ -1,6 +1,6 @@
 #include "language/FormUebersetzen.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 
 #include <QTabWidget>
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "language/SprachDatenbank.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "store/Datenbank.h"
 #include "store/Schema.h"
 

@@ -2,13 +2,13 @@
 
 #include "platform/Blanks.h"
 
-#include "host/Arbeitsdateien.h"
-#include "host/ModulState.h"
+#include "core/Arbeitsdateien.h"
+#include "core/CommPortAuswahl.h"
+#include "core/ModulState.h"
 #include "links/Form2.h"
 #include "links/MyComm.h"
 #include "platform/Codepage.h"
 #include "platform/CommPort.h"
-#include "platform/CommPortAuswahl.h"
 #include "platform/Ui.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "links/Form2.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 
 namespace vemo {
 namespace {

@@ -1,9 +1,10 @@
 #include "links/MyComm.h"
 
+#include "core/CommPortAuswahl.h"
+#include "core/ModulState.h"
 #include "platform/Codepage.h"
 #include "platform/CommPort.h"
-#include "platform/CommPortAuswahl.h"
-#include "store/Fehler.h"
+#include "platform/Fehler.h"
 
 #include <QRegularExpression>
 #include <array>
@@ -74,14 +75,8 @@ QString gerätZumNamen(const QString& name) {
 #endif
 }
 
-struct Empfangsspeicher {
-    QByteArray bytes;
-    qint32 anzahl = 0;
-};
-
-Empfangsspeicher& empfangsspeicher() {
-    static Empfangsspeicher s;
-    return s;
+Portpuffer& empfangsspeicher() {
+    return modul().portpuffer;
 }
 
 constexpr qsizetype Anfangsplätze = 100000;
@@ -89,8 +84,7 @@ constexpr qsizetype Mindestfrei = 100000;
 constexpr qsizetype Wachstum = 1000000;
 
 qint32 nächstesHandle() {
-    static qint32 letztes = 0;
-    return ++letztes;
+    return ++modul().portpuffer.letztesHandle;
 }
 
 } // namespace
@@ -198,8 +192,10 @@ qsizetype MyComm::receivedBytesPlätze() {
 }
 
 MyComm& gemeinsamerMyComm() {
-    static MyComm instanz;
-    return instanz;
+    auto& instanz = modul().gemeinsamerMyComm;
+    if (!instanz)
+        instanz = std::make_shared<MyComm>();
+    return *instanz;
 }
 
 } // namespace vemo

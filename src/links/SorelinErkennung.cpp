@@ -1,6 +1,6 @@
 #include "links/SorelinErkennung.h"
 
-#include "store/Fehler.h"
+#include "platform/Fehler.h"
 
 #include <QFile>
 #include <QFileInfo>

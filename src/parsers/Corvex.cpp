@@ -1,7 +1,7 @@
 #include "parsers/Corvex.h"
 
-#include "host/Arbeitsdateien.h"
-#include "host/ModulState.h"
+#include "core/Arbeitsdateien.h"
+#include "core/ModulState.h"
 #include "parsers/Dumpkopf.h"
 #include "parsers/Einlesebloecke.h"
 #include "parsers/GeraetAnmelden.h"
@@ -142,8 +142,7 @@ void CorvexBericht::werteDerZeile(Einleseblöcke& blöcke, qint32 messungID) {
 } // namespace
 
 bool& MultitesterGefunden() {
-    static bool gefunden = false;
-    return gefunden;
+    return modul().multitesterGefunden;
 }
 
 void Corvex() {

@@ -1,6 +1,6 @@
 #include "parsers/Dumpkopf.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "parsers/Primitive.h"
 #include "platform/Textdatei.h"
 #include "platform/Ui.h"

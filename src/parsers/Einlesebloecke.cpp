@@ -1,7 +1,7 @@
 #include "parsers/Einlesebloecke.h"
 
-#include "host/ModulState.h"
-#include "store/Schluessel.h"
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
 
 namespace vemo {
 

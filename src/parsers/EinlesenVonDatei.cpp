@@ -1,6 +1,6 @@
 #include "parsers/EinlesenVonDatei.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "parsers/Corvex.h"
 #include "parsers/MultitesterTabelle.h"
 #include "platform/Ui.h"

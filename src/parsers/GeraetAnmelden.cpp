@@ -1,11 +1,11 @@
 #include "parsers/GeraetAnmelden.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
 #include "parsers/Dumpkopf.h"
 #include "platform/SettingsStore.h"
 #include "platform/Zahlformat.h"
 #include "store/Recordset.h"
-#include "store/Schluessel.h"
 #include "store/Variant.h"
 
 namespace vemo {

@@ -1,6 +1,6 @@
 #include "parsers/MultitesterTabelle.h"
 
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
 #include "parsers/Dumpkopf.h"
 #include "parsers/Einlesebloecke.h"
 #include "parsers/GeraetAnmelden.h"

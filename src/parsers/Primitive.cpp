@@ -1,6 +1,6 @@
 #include "parsers/Primitive.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "platform/Ui.h"
 #include "platform/Zahlformat.h"
 #include "store/Datenbank.h"

@@ -1,6 +1,6 @@
 #include "parsers/PruefgeraetEintragen.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "store/Datenbank.h"
 #include "store/Variant.h"
 

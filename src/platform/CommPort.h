@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Fehler.h"
+#include "platform/Fehler.h"
 
 #include <QByteArray>
 #include <QObject>

@@ -84,9 +84,8 @@ void QtUi::DoEvents() {
 }
 
 QDialog* QtUi::ansichtErstellen(DialogController& dialog) {
-    const auto& tabelle = ansichten();
-    const auto it = tabelle.find(dialog.metaObject()->className());
-    if (it == tabelle.end())
+    const auto it = m_ansichten.find(dialog.metaObject()->className());
+    if (it == m_ansichten.end())
         return nullptr;
     QDialog* view = it->second(dialog, m_hauptfenster);
     DialogZentrieren(*view, m_hauptfenster);

@@ -1,7 +1,7 @@
 #include "platform/Textdatei.h"
 
 #include "platform/Codepage.h"
-#include "store/Fehler.h"
+#include "platform/Fehler.h"
 
 #include <QFile>
 #include <QFileInfo>

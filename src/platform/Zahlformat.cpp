@@ -7,13 +7,33 @@
 namespace vemo::zahlformat {
 namespace {
 
-QLocale& aktuell() {
-    static QLocale l = [] {
-        QLocale x = QLocale::system();
-        x.setNumberOptions(QLocale::OmitGroupSeparator);
-        return x;
-    }();
+QLocale zahlenLocale(const QLocale& l) {
+    QLocale x = l;
+    x.setNumberOptions(QLocale::OmitGroupSeparator);
+    return x;
+}
+
+QLocale ausDerUmgebung() {
+    for (const char* name : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
+        const char* wert = std::getenv(name);
+        if (wert && *wert) {
+            const QString n = QString::fromLocal8Bit(wert).section('.', 0, 0);
+            return zahlenLocale(n == "C" || n == "POSIX" ? QLocale::c() : QLocale(n));
+        }
+    }
+    return zahlenLocale(QLocale::system());
+}
+
+Gebietsschema* inKraft = nullptr;
+
+// Where no component is loaded (the simulator, a tool), the locale of the environment holds.
+QLocale& ohneKomponente() {
+    static QLocale l = ausDerUmgebung();
     return l;
+}
+
+QLocale& aktuell() {
+    return inKraft ? inKraft->locale : ohneKomponente();
 }
 
 QString ohneNachnullen(QString s) {
@@ -32,21 +52,21 @@ const QLocale& locale() {
     return aktuell();
 }
 
+Gebietsschema::Gebietsschema() : locale(ausDerUmgebung()) {
+    inKraft = this;
+}
+
+Gebietsschema::~Gebietsschema() {
+    if (inKraft == this)
+        inKraft = nullptr;
+}
+
 void setzen(const QLocale& l) {
-    aktuell() = l;
-    aktuell().setNumberOptions(QLocale::OmitGroupSeparator);
+    aktuell() = zahlenLocale(l);
 }
 
 void ausUmgebung() {
-    for (const char* name : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
-        const char* wert = std::getenv(name);
-        if (wert && *wert) {
-            QString n = QString::fromLocal8Bit(wert).section('.', 0, 0);
-            setzen(n == "C" || n == "POSIX" ? QLocale::c() : QLocale(n));
-            return;
-        }
-    }
-    setzen(QLocale::system());
+    aktuell() = ausDerUmgebung();
 }
 
 QString text(double wert) {

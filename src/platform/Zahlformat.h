@@ -10,6 +10,18 @@ namespace vemo::zahlformat {
 
 // The one number locale of the component. Values become text with it, and texts are read back
 // with it; by default it is the system's (LC_ALL, LC_NUMERIC, LANG), on the command line --locale.
+// It lives in the module state, so that loading the component anew starts from the system's again:
+// the newest Gebietsschema is the one in force while it lives.
+class Gebietsschema {
+public:
+    Gebietsschema();
+    ~Gebietsschema();
+    Gebietsschema(const Gebietsschema&) = delete;
+    Gebietsschema& operator=(const Gebietsschema&) = delete;
+
+    QLocale locale;
+};
+
 const QLocale& locale();
 void setzen(const QLocale& locale);
 void ausUmgebung();

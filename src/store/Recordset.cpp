@@ -1,7 +1,7 @@
 #include "store/Recordset.h"
 
+#include "platform/Fehler.h"
 #include "store/Dialekt.h"
-#include "store/Fehler.h"
 #include "store/Kriterium.h"
 #include "store/Variant.h"
 #include "store/Verbindung.h"

@@ -1,7 +1,7 @@
 #include "store/Schema.h"
 
+#include "platform/Fehler.h"
 #include "store/Datenbank.h"
-#include "store/Fehler.h"
 
 #include <QDir>
 #include <QFile>

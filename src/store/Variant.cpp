@@ -1,7 +1,7 @@
 #include "store/Variant.h"
 
+#include "platform/Fehler.h"
 #include "platform/Zahlformat.h"
-#include "store/Fehler.h"
 
 #include <QDate>
 #include <QDateTime>

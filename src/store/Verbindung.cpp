@@ -1,7 +1,7 @@
 #include "store/Verbindung.h"
 
+#include "platform/Fehler.h"
 #include "platform/Zahlformat.h"
-#include "store/Fehler.h"
 #include "store/Variant.h"
 
 #include <QDate>

@@ -1,4 +1,4 @@
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "takeover/Handler.h"
 #include "takeover/Messzeilen.h"
 

@@ -1,6 +1,6 @@
 #include "takeover/ErdWert.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "platform/Zahlformat.h"
 
 namespace vemo {

@@ -1,6 +1,6 @@
 #include "takeover/Grenzwerte.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "store/Variant.h"
 #include "takeover/Grenzwertrechnung.h"
 #include "takeover/Messzeilen.h"

@@ -1,4 +1,4 @@
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "takeover/Handler.h"
 
 // Limits that the instrument reports itself. They are written over the limit row after it has

@@ -1,7 +1,7 @@
 #include "takeover/Messzeilen.h"
 
-#include "store/Schluessel.h"
-#include "takeover/Laufschluessel.h"
+#include "core/Laufschluessel.h"
+#include "core/Schluesselvergabe.h"
 
 namespace vemo {
 

@@ -1,6 +1,6 @@
-#include "host/ModulState.h"
+#include "core/ModulState.h"
+#include "platform/Fehler.h"
 #include "platform/Ui.h"
-#include "store/Fehler.h"
 #include "takeover/Handler.h"
 #include "takeover/Messzeilen.h"
 

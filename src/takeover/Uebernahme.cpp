@@ -1,14 +1,15 @@
 #include "takeover/Uebernahme.h"
 
+#include "core/Laufschluessel.h"
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
+#include "core/Vorbelegung.h"
 #include "grid/EinleseDatenController.h"
-#include "host/ModulState.h"
 #include "parsers/PruefgeraetEintragen.h"
 #include "platform/Ui.h"
 #include "store/Datenbank.h"
-#include "store/Schluessel.h"
 #include "store/Variant.h"
 #include "takeover/ErdWert.h"
-#include "takeover/Laufschluessel.h"
 #include "takeover/MesswertUebernehmen.h"
 #include "takeover/Messzeilen.h"
 

@@ -156,7 +156,6 @@ TEST_F(FormularMitZeilen, TheTakeOverIsPluggedInAndDrivesTheForm) {
         form.EinleseGridRefresh(1, form.zeilenAnzahl() - 1);
     });
     f->übernehmenKlick();
-    EinleseDatenController::datenübernahmeEinsetzen({});
     EXPECT_EQ(m_ui.meldungen.size(), 1);
     EXPECT_EQ(f->fortschritt().Max, 4);
     EXPECT_TRUE(f->fortschritt().sichtbar);

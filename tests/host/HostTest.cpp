@@ -1,7 +1,7 @@
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
+#include "core/Geraetetypen.h"
 #include "host/DateiEinlesen.h"
 #include "host/Dateinummern.h"
-#include "host/Geraetetypen.h"
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
 #include "store/Variant.h"
@@ -88,6 +88,21 @@ TEST_F(HostTest, FileNumbersAdvancePastCopiesThatExist) {
     EXPECT_EQ(NächsteDateiNummer(), "");
     ASSERT_EQ(m_ui.meldungen.size(), 1);
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("76 "));
+}
+
+// The host may destroy its window before the component's module state goes: a message shown after
+// the component is gone must not reach a dead Ui.
+TEST_F(HostTest, TheComponentLetsGoOfTheHostsWindowWhenItGoes) {
+    {
+        AufzeichnungsUi fenster;
+        SpeicherSettingsStore einstellungen;
+        vemo0100Modul15a k(fenster, einstellungen);
+        EXPECT_EQ(modul().ui, &fenster);
+    }
+    EXPECT_EQ(modul().ui, nullptr);
+    EXPECT_EQ(modul().settings, nullptr);
+    fehlerZeigen(Fehler(5, "danach"));
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
 TEST_F(HostTest, PropertiesKeepTheirContract) {

@@ -3,7 +3,7 @@
 
 #include "MultitesterGeraet.h"
 #include "PortLeitung.h"
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
 #include "host/Modul15a.h"
 #include "links/Form2.h"
 #include "store/Variant.h"

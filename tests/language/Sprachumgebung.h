@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/Sprachen.h"
 #include "language/SprachDatenbank.h"
-#include "language/Sprachen.h"
 #include "support/Testumgebung.h"
 
 namespace vemo::test {

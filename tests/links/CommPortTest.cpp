@@ -1,7 +1,7 @@
 #include "support/Testumgebung.h"
 
 #include "PtyLeitung.h"
-#include "platform/CommPortAuswahl.h"
+#include "core/CommPortAuswahl.h"
 #include "platform/CommPortSeriell.h"
 #include "platform/CommPortSpeicher.h"
 

@@ -4,7 +4,7 @@
 #include "CorvexSpeicher.h"
 #include "MultitesterGeraet.h"
 #include "PortLeitung.h"
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
 #include "links/DumpEmpfang.h"
 #include "links/Form2.h"
 

@@ -1,7 +1,7 @@
 #include "support/Testumgebung.h"
 
+#include "ansichten/Ansichten.h"
 #include "links/Form2.h"
-#include "platform/QtUi.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -56,7 +56,7 @@ TEST_F(Form2Test, TextBoxBehaeltDasEndeUndTastenWirkenAufDieMerker) {
 }
 
 TEST_F(Form2Test, FensterLeitetKnopfUndTastenWeiter) {
-    QtUi qtUi;
+    QtUi qtUi(ansichten());
     Form2 form;
     form.wartenAnzeigen();
     qtUi.zeigeNichtModal(form);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "platform/CommPortSpeicher.h"
 
 #include <QDeadlineTimer>

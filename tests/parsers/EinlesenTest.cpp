@@ -1,4 +1,4 @@
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Codepage.h"
 #include "platform/Zahlformat.h"

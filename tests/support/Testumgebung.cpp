@@ -1,8 +1,8 @@
 #include "support/Testumgebung.h"
 
+#include "core/Schluesselvergabe.h"
 #include "store/Recordset.h"
 #include "store/Schema.h"
-#include "store/Schluessel.h"
 #include "store/Variant.h"
 
 #include <QDir>
@@ -11,7 +11,6 @@ namespace vemo::test {
 
 void Testumgebung::SetUp() {
     ASSERT_TRUE(m_dir.isValid());
-    NeueID("", "");
     modulNeuLaden();
     modul().ui = &m_ui;
     modul().settings = &m_settings;
@@ -19,13 +18,13 @@ void Testumgebung::SetUp() {
 }
 
 void Testumgebung::TearDown() {
-    NeueID("", "");
     modulNeuLaden();
     modul().ui = nullptr;
     modul().settings = nullptr;
 }
 
 void Testumgebung::neueDatenbank(bool demo) {
+    // As the host's change of database does: the allocator lets go of the old one's counter.
     NeueID("", "");
     modul().db.Close();
     m_dbPfad = m_dir.filePath("vemotrix.db");

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "platform/AufzeichnungsUi.h"
 #include "platform/SettingsStore.h"
 #include "store/Datenbank.h"

@@ -1,7 +1,7 @@
 #include "Uebernahmeumgebung.h"
 
+#include "core/Laufschluessel.h"
 #include "store/Recordset.h"
-#include "takeover/Laufschluessel.h"
 #include "takeover/MesswertUebernehmen.h"
 
 namespace vemo::test {

@@ -1,6 +1,6 @@
 #include "Uebernahmeumgebung.h"
 
-#include "takeover/Laufschluessel.h"
+#include "core/Laufschluessel.h"
 #include "takeover/MesswertUebernehmen.h"
 #include "takeover/Messzeilen.h"
 

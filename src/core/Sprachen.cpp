@@ -1,9 +1,9 @@
-#include "language/Sprachen.h"
+#include "core/Sprachen.h"
 
-#include "host/Arbeitsdateien.h"
-#include "host/ModulState.h"
+#include "core/Arbeitsdateien.h"
+#include "core/ModulState.h"
+#include "platform/Fehler.h"
 #include "platform/Ui.h"
-#include "store/Fehler.h"
 
 namespace vemo {
 

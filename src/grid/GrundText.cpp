@@ -1,6 +1,6 @@
-#include "takeover/GrundText.h"
+#include "grid/GrundText.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "store/Variant.h"
 
 namespace vemo {

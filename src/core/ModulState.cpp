@@ -1,4 +1,4 @@
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 
 #include "platform/Ui.h"
 
@@ -20,6 +20,8 @@ ModulState& modul() {
 void modulNeuLaden() {
     Ui* u = modul().ui;
     SettingsStore* s = modul().settings;
+    // The old state goes first, so that the new one's number locale is the one in force.
+    zustand().reset();
     zustand() = std::make_unique<ModulState>();
     modul().ui = u;
     modul().settings = s;

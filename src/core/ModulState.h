@@ -1,8 +1,11 @@
 #pragma once
 
-#include "language/Sprachen.h"
+#include "core/Laufschluessel.h"
+#include "core/Sprachen.h"
+#include "platform/Fehler.h"
+#include "platform/Zahlformat.h"
 #include "store/Datenbank.h"
-#include "store/Fehler.h"
+#include "store/Schluessel.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -14,6 +17,16 @@ namespace vemo {
 class Ui;
 class SettingsStore;
 class CommPort;
+class EinleseDatenController;
+class MyComm;
+
+// What the raw port collects: the bytes received so far, shared by every port wrapper, and the
+// handle the next port opened gets.
+struct Portpuffer {
+    QByteArray bytes;
+    qint32 anzahl = 0;
+    qint32 letztesHandle = 0;
+};
 
 // The module variables: the state that the dialogs and parsers of the component share. There is
 // one such state per loaded component; a second instance of the public class shares it.
@@ -62,12 +75,24 @@ struct ModulState {
     // status tells a failed run by it.
     int gezeigteFehler = 0;
 
+    // The state of a run that outlives one call: the number locale, the key allocator's counter,
+    // the keys the take-over has reached, what the take-over button runs, the raw port's buffers,
+    // and whether the dump read last was a Multitester's.
+    zahlformat::Gebietsschema zahlen;
+    Schlüsselvergabe schlüsselvergabe;
+    Laufschlüssel laufschlüssel;
+    std::function<void(EinleseDatenController&)> datenübernahme;
+    Portpuffer portpuffer;
+    std::shared_ptr<MyComm> gemeinsamerMyComm;
+    bool multitesterGefunden = false;
+
     Ui* ui = nullptr;
     SettingsStore* settings = nullptr;
 };
 
 ModulState& modul();
-// A fresh module state, as when the component is loaded anew; the seams stay.
+// A fresh module state, as when the component is loaded anew: every run state starts again, the
+// seams stay.
 void modulNeuLaden();
 
 // Shortcuts the whole component uses.

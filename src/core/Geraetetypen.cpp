@@ -1,6 +1,6 @@
-#include "host/Geraetetypen.h"
+#include "core/Geraetetypen.h"
 
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
 
 namespace vemo {
 

@@ -1,6 +1,6 @@
-#include "platform/CommPortAuswahl.h"
+#include "core/CommPortAuswahl.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 #include "platform/CommPortSeriell.h"
 #include "platform/SettingsStore.h"
 

@@ -1,4 +1,4 @@
-#include "store/Fehler.h"
+#include "platform/Fehler.h"
 
 #include <map>
 

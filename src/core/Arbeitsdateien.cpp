@@ -1,6 +1,6 @@
-#include "host/Arbeitsdateien.h"
+#include "core/Arbeitsdateien.h"
 
-#include "host/ModulState.h"
+#include "core/ModulState.h"
 
 #include <QDir>
 #include <QFileInfo>

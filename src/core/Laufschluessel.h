@@ -14,7 +14,7 @@ struct Laufschlüssel {
     QVariant stromkreisID = 0;
 };
 
-// The one set of run keys of the component.
+// The run keys of the module state.
 Laufschlüssel& laufschlüssel();
 
 } // namespace vemo

@@ -1,4 +1,5 @@
-#include "store/Schluessel.h"
+#include "core/Schluesselvergabe.h"
+#include "core/Vorbelegung.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 #include "support/Testumgebung.h"

@@ -1,4 +1,4 @@
-#include "platform/QtUi.h"
+#include "ansichten/Ansichten.h"
 
 #include "grid/EinleseDatenAnsicht.h"
 #include "links/Form2Ansicht.h"
@@ -8,8 +8,8 @@
 namespace vemo {
 
 // One line a dialog: the controller's class name and how its view is made.
-const std::map<QString, Ansichtsfabrik>& ansichten() {
-    static const std::map<QString, Ansichtsfabrik> tabelle{
+const Ansichtstabelle& ansichten() {
+    static const Ansichtstabelle tabelle{
         {"vemo::EinleseDatenController", einleseDatenAnsicht},
         {"vemo::Form2", &Form2Ansicht::erstellen},
         {"vemo::frmTeilFunktion",

@@ -1,0 +1,66 @@
+#include "core/Schluesselvergabe.h"
+
+#include "core/ModulState.h"
+#include "platform/Zahlformat.h"
+#include "store/Recordset.h"
+#include "store/Variant.h"
+
+#include <QMap>
+
+namespace vemo {
+
+qint32 NeueID(const QString& tabelle, const QString& quelle) {
+    Schlüsselvergabe& vergabe = modul().schlüsselvergabe;
+    if (quelle.isEmpty() && tabelle.isEmpty()) {
+        vergabe = Schlüsselvergabe{};
+        return 0;
+    }
+    const QString name = quelle.isEmpty() ? tabelle : tabelleAusQuelle(quelle);
+    qint32 ergebnis = 0;
+    mitFalle([&] { ergebnis = vergabe.nächsterSchlüssel(db(), modul().vmxReplicaID, name); });
+    return ergebnis;
+}
+
+QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
+    static const QMap<QString, QString> anweisungen{
+        {"Anlage", "SELECT Code FROM 0100_ANLAGE WHERE KundeID = "},
+        {"Verteiler", "SELECT Code FROM 0100_Verteiler WHERE PrüfungID = "},
+        {"Stromkreis", "SELECT Code FROM 0100_Stromkreis WHERE VerteilerID = "},
+    };
+    if (!anweisungen.contains(art))
+        throw Fehler(91, "Objektvariable oder With-Blockvariable nicht festgelegt");
+    Recordset rs =
+        db().OpenRecordset(anweisungen[art] + text(elternSchlüssel) + " GROUP BY Code ORDER BY Code");
+    int i = 1;
+    for (; !rs.Eof(); rs.MoveNext()) {
+        const double v = zahlformat::val(rs.Text("Code"));
+        if (v != 0 && v <= i) {
+            if (v < i)
+                break;
+            ++i; // the code equals i: it is taken
+        }
+        if (i == 999)
+            return {};
+    }
+    if (i == 999)
+        return {};
+    return QString("00" + QString::number(i)).right(3);
+}
+
+QString NächsteProtokollNr() {
+    QString nummer;
+    mitFalle([&] {
+        Recordset rs =
+            db().OpenRecordset("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;");
+        const QVariant max = rs.Eof() ? QVariant() : rs.Field("proMax");
+        if (!istLeer(max) && zahl(max) != 0)
+            nummer = zahlformat::text(zahl(max) + 1).replace(',', '.').trimmed();
+        else
+            nummer = "1";
+        if (nummer.size() < 8)
+            nummer = QString("0000000" + nummer).right(8);
+    });
+    return nummer;
+}
+
+} // namespace vemo
