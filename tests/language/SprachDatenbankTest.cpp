@@ -1,5 +1,7 @@
 #include "Sprachumgebung.h"
 
+#include "platform/Version.h"
+
 #include <QFile>
 #include <QSet>
 
@@ -48,6 +50,11 @@ TEST_F(SprachDatenbankTest, SpracheEinstellenÖffnetDieDatenbankBeimHost) {
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
     EXPECT_EQ(modul().sprachen.Sprache(), Englisch);
     EXPECT_EQ(xText("Kunde:"), "Customer:");
+    // A text the table learns is marked with the version of the component that brought it.
+    EXPECT_EQ(xText("Neuer Hinweis"), "Neuer Hinweis");
+    EXPECT_EQ(spracheWert("SELECT VersionID FROM Sprache WHERE TextID = 'Neuer Hinweis'"),
+              komponentenVersion);
+    EXPECT_FALSE(komponentenVersion.isEmpty());
 
     spracheEinstellen("Esperanto");
     ASSERT_EQ(m_ui.meldungen.size(), 1);
