@@ -135,7 +135,34 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Anlagen', 'Installations'),
   ('Prüfungen', 'Inspections'),
   ('Stromkreise', 'Circuits'),
-  ('Grenzwerte', 'Limit values');
+  ('Grenzwerte', 'Limit values'),
+  ('Grenzwert', 'Limit value'),
+  ('Text', 'Text'),
+  ('Neue Demo-Datenbank', 'New demo database');
+
+-- The grid's commands on the command line: the legend and the refusals.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('wird bei der Übernahme angelegt', 'will be created by the take-over'),
+  ('nicht zugeordnet', 'not assigned'),
+  ('Ungültige Zeilenangabe', 'Invalid row range'),
+  ('Diese Zeilen gibt es nicht', 'These rows do not exist'),
+  ('Die Spalte muss 1 bis 5 sein', 'The column must be 1 to 5'),
+  ('Der Schlüssel muss eine Zahl sein', 'The key must be a number'),
+  ('Dieser Schlüssel steht nicht in der Auswahlliste', 'This key is not in the selection list');
+
+-- What this version cannot do yet, and a host that has not set up the take-over.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Die Datenübertragung von diesem Gerätetyp ist in dieser Version noch nicht möglich.',
+   'Data transfer from this instrument type is not yet possible in this version.'),
+  ('Das Einlesen dieses Gerätetyps ist noch nicht möglich', 'Reading in this instrument type is not yet possible'),
+  ('Die Aufzeichnung eines Datenloggers kann in dieser Version noch nicht übernommen werden. '
+   || 'Die Datei bleibt erhalten.',
+   'This version cannot take over a data logger recording yet. The file is kept.'),
+  ('Messwerte können in dieser Version noch nicht in ein Zertifikat übernommen werden. '
+   || 'Die Zeilen bleiben in den Einlesedaten.',
+   'This version cannot take measurements over into a certificate yet. The rows stay in the read-in data.'),
+  ('Diese Funktion ist in dieser Version noch nicht verfügbar.', 'This function is not yet available in this version.'),
+  ('Die Datenübernahme ist in diesem Programm nicht eingerichtet.', 'Taking over data is not set up in this program.');
 
 -- Keys that name a text rather than being it: the German wording stands in Deutsch.
 INSERT INTO Sprache (TextID, Deutsch, "English (United Kingdom)") VALUES

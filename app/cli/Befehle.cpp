@@ -24,7 +24,7 @@ void ausgeben(const QString& text) {
 
 int initDb(const Optionen& o) {
     const QString pfad = o.argumente.value(0);
-    if (pfad.isEmpty() || pfad.startsWith("--")) {
+    if (pfad.isEmpty()) {
         ausgeben("vemo0100: init-db needs the path of the database");
         return 2;
     }
@@ -54,7 +54,7 @@ int mitKomponente(const Optionen& o, const std::function<int(Sitzung&)>& befehl)
 
 int readFile(const Optionen& o) {
     const QString datei = o.argumente.value(0);
-    if (datei.isEmpty() || datei.startsWith("--")) {
+    if (datei.isEmpty()) {
         ausgeben("vemo0100: read-file needs the path of a dump");
         return 2;
     }

@@ -30,10 +30,11 @@ Empfangskonsole::Empfangskonsole(bool immerJa) : KonsolenUi(immerJa) {
     QObject::connect(m_abbruch, &QSocketNotifier::activated, [this] {
         char c;
         [[maybe_unused]] const ssize_t n = ::read(ctrlC[1], &c, 1);
+        m_ctrlC = true;
         if (m_form)
             m_form->abbrechen();
         else
-            modul().Abbruchmerker = 1; // not waiting yet: the reception will not start
+            modul().Abbruchmerker = 1; // the run ends as aborted, and a wait still to come at once
     });
     struct sigaction aktion {};
     aktion.sa_handler = beiCtrlC;
@@ -68,6 +69,12 @@ void Empfangskonsole::zeigeNichtModal(DialogController& dialog) {
     if (!form)
         return;
     m_form = form;
+    // Ctrl-C came before the wait: the abort button is pressed as soon as there is one, so that no
+    // dump is received only to be thrown away.
+    if (m_ctrlC) {
+        form->abbrechen();
+        return;
+    }
     std::fprintf(stderr, "%s\n", form->titel().toLocal8Bit().constData());
     QObject::connect(form, &DialogController::aktualisiert, form, [this] { hinweisZeigen(); });
     hinweisZeigen();

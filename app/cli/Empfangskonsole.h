@@ -11,8 +11,9 @@ class Form2;
 }
 
 // The console of a reception from the instrument: Ctrl-C is the dialog's abort button and ends the
-// transfer as that button does, never by killing the program mid-write; Enter is the Enter of the
-// dialog's text box. What the dialog tells the user appears on stderr.
+// transfer as that button does, never by killing the program mid-write; pressed before the dialog
+// is up, it ends the wait the moment the dialog comes. Enter is the Enter of the dialog's text box.
+// What the dialog tells the user appears on stderr.
 class Empfangskonsole : public vemo::KonsolenUi {
 public:
     explicit Empfangskonsole(bool immerJa);
@@ -27,4 +28,5 @@ private:
     QSocketNotifier* m_abbruch = nullptr;
     QSocketNotifier* m_eingabe = nullptr;
     QString m_gezeigt;
+    bool m_ctrlC = false; // pressed since the console was set up
 };

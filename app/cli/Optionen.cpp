@@ -1,73 +1,165 @@
 #include "Optionen.h"
 
+#include <QCommandLineParser>
+#include <utility>
+#include <vector>
+
 const char* const Gebrauch =
     "usage: vemo0100 init-db DB [--demo]\n"
+    "       vemo0100 --help | --version\n"
     "       vemo0100 --db DB [--language NAME] [--backup DIR] [--settings FILE] [--locale NAME]\n"
-    "                [--replica ID] [--port N|PATH] [--type CODE] [--yes] COMMAND\n"
+    "                [--replica ID] [--port N|PATH] [--type CODE]\n"
+    "                [--customer ID] [--plant ID] [--inspection ID] [--yes] COMMAND\n"
     "  read-file FILE          read a saved dump\n"
-    "  receive                 transfer from the instrument on --port of type --type\n"
+    "  receive                 transfer from the instrument on --port of type --type (Ctrl-C aborts)\n"
     "  grid [--json]           refresh and print the read-in rows with the state of each cell\n"
-    "  assign --rows A[-B] --column 1..5 --key K\n"
+    "  assign --rows A[-B] --column 1..5 --key K     the grid's choice for a selection of rows\n"
     "  delete-rows --rows A[-B]\n"
     "  take-over               take assigned rows over into the inspection records\n";
 
+namespace {
+
+const QCommandLineOption hilfe(QStringList{"h", "help"});
+const QCommandLineOption version("version");
+const QCommandLineOption ja("yes");
+
+// An option that takes a value; the parser wants a name for the value to know it takes one.
+QCommandLineOption mitWert(const QString& name) {
+    return QCommandLineOption(name, QString(), "VALUE");
+}
+
+const std::vector<std::pair<QString, QString Optionen::*>> globaleOptionen{
+    {"db", &Optionen::db},
+    {"language", &Optionen::sprache},
+    {"backup", &Optionen::backup},
+    {"settings", &Optionen::settings},
+    {"locale", &Optionen::locale},
+    {"replica", &Optionen::replica},
+    {"port", &Optionen::port},
+    {"type", &Optionen::typ},
+    {"customer", &Optionen::kunde},
+    {"plant", &Optionen::anlage},
+    {"inspection", &Optionen::prüfung},
+};
+
+// What a command takes: at most so many arguments, the options with a value, the switches.
+struct Befehlsform {
+    QString name;
+    qsizetype argumente;
+    QStringList werte;
+    QStringList schalter;
+};
+
+const std::vector<Befehlsform> befehlsformen{
+    {"init-db", 1, {}, {"demo"}},
+    {"read-file", 1, {}, {}},
+    {"receive", 0, {}, {}},
+    {"grid", 0, {}, {"json"}},
+    {"assign", 0, {"rows", "column", "key"}, {}},
+    {"delete-rows", 0, {"rows"}, {}},
+    {"take-over", 0, {}, {}},
+};
+
+const Befehlsform* befehlsform(const QString& name) {
+    for (const Befehlsform& f : befehlsformen)
+        if (f.name == name)
+            return &f;
+    return nullptr;
+}
+
+bool istSchlüssel(const QString& text) {
+    bool ok = false;
+    text.toInt(&ok);
+    return ok;
+}
+
+// The global options up to the command; what follows the command is left to it.
+bool globaleLesen(const QStringList& argumente, Optionen& o, QStringList& rest, QString& fehler) {
+    QCommandLineParser p;
+    p.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    p.addOptions({hilfe, version, ja});
+    for (const auto& [name, ziel] : globaleOptionen)
+        p.addOption(mitWert(name));
+    if (!p.parse(QStringList{"vemo0100"} + argumente)) {
+        fehler = p.errorText();
+        return false;
+    }
+    if (p.isSet(hilfe))
+        o.anfrage = Anfrage::Gebrauch;
+    else if (p.isSet(version))
+        o.anfrage = Anfrage::Version;
+    for (const auto& [name, ziel] : globaleOptionen)
+        o.*ziel = p.value(name);
+    for (const QString& schlüssel : {o.kunde, o.anlage, o.prüfung})
+        if (!schlüssel.isEmpty() && !istSchlüssel(schlüssel)) {
+            fehler = "--customer, --plant and --inspection need a key, not " + schlüssel;
+            return false;
+        }
+    o.ja = p.isSet(ja);
+    rest = p.positionalArguments();
+    return true;
+}
+
+// The command's own arguments and options; rest begins with the command's name.
+bool befehlLesen(const Befehlsform& form, const QStringList& rest, Optionen& o, QString& fehler) {
+    QCommandLineParser p;
+    p.addOptions({hilfe, ja});
+    for (const QString& name : form.werte)
+        p.addOption(mitWert(name));
+    for (const QString& name : form.schalter)
+        p.addOption(QCommandLineOption(name));
+    if (!p.parse(rest)) {
+        fehler = form.name + ": " + p.errorText();
+        return false;
+    }
+    if (p.isSet(hilfe))
+        o.anfrage = Anfrage::Gebrauch;
+    o.ja = o.ja || p.isSet(ja);
+    o.argumente = p.positionalArguments();
+    if (o.argumente.size() > form.argumente) {
+        fehler = form.name + ": unexpected argument " + o.argumente[form.argumente];
+        return false;
+    }
+    for (const QString& name : form.werte)
+        if (p.isSet(name))
+            o.befehlsoptionen.insert("--" + name, p.value(name));
+    for (const QString& name : form.schalter)
+        if (p.isSet(name))
+            o.befehlsoptionen.insert("--" + name, QString());
+    return true;
+}
+
+} // namespace
+
 std::optional<QString> Optionen::option(const QString& name) const {
-    const int i = int(argumente.indexOf(name));
-    if (i < 0 || i + 1 >= argumente.size())
+    const auto it = befehlsoptionen.find(name);
+    if (it == befehlsoptionen.end())
         return std::nullopt;
-    return argumente[i + 1];
+    return *it;
 }
 
 bool Optionen::schalter(const QString& name) const {
-    return argumente.contains(name);
+    return befehlsoptionen.contains(name);
 }
 
 std::optional<Optionen> optionenLesen(const QStringList& argumente, QString& fehler) {
     Optionen o;
-    const struct {
-        const char* name;
-        QString Optionen::*ziel;
-    } globale[] = {{"--db", &Optionen::db},         {"--language", &Optionen::sprache},
-                   {"--backup", &Optionen::backup}, {"--settings", &Optionen::settings},
-                   {"--locale", &Optionen::locale}, {"--replica", &Optionen::replica},
-                   {"--port", &Optionen::port},     {"--type", &Optionen::typ}};
-    int i = 0;
-    while (i < argumente.size() && o.befehl.isEmpty()) {
-        const QString& a = argumente[i];
-        if (a == "--yes") {
-            o.ja = true;
-            ++i;
-            continue;
-        }
-        bool erkannt = false;
-        for (const auto& g : globale) {
-            if (a == g.name) {
-                if (i + 1 >= argumente.size()) {
-                    fehler = a + " needs a value";
-                    return std::nullopt;
-                }
-                o.*(g.ziel) = argumente[i + 1];
-                i += 2;
-                erkannt = true;
-                break;
-            }
-        }
-        if (erkannt)
-            continue;
-        if (a.startsWith("--")) {
-            fehler = "unknown option " + a;
-            return std::nullopt;
-        }
-        o.befehl = a;
-        ++i;
-    }
-    o.argumente = argumente.mid(i);
-    // --yes may also stand behind the command.
-    if (o.argumente.removeAll("--yes") > 0)
-        o.ja = true;
-    if (o.befehl.isEmpty()) {
+    QStringList rest;
+    if (!globaleLesen(argumente, o, rest, fehler))
+        return std::nullopt;
+    if (o.anfrage != Anfrage::Befehl)
+        return o;
+    if (rest.isEmpty()) {
         fehler = "no command given";
         return std::nullopt;
     }
+    o.befehl = rest.first();
+    const Befehlsform* form = befehlsform(o.befehl);
+    if (!form) {
+        fehler = "unknown command " + o.befehl;
+        return std::nullopt;
+    }
+    if (!befehlLesen(*form, rest, o, fehler))
+        return std::nullopt;
     return o;
 }

@@ -1,11 +1,16 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <optional>
 
-// The command line: global options, then a command and its own arguments.
+// What a command line asks for: a command to run, or the usage or the version printed.
+enum class Anfrage { Befehl, Gebrauch, Version };
+
+// The command line: global options, then a command with its own arguments and options.
 struct Optionen {
+    Anfrage anfrage = Anfrage::Befehl;
     QString db;
     QString sprache;
     QString backup;
@@ -14,16 +19,23 @@ struct Optionen {
     QString replica;
     QString port;
     QString typ;
+    // The host's list selection: customer, plant and inspection keys.
+    QString kunde;
+    QString anlage;
+    QString prüfung;
     bool ja = false;
     QString befehl;
-    QStringList argumente; // what follows the command
+    QStringList argumente;                  // the command's own arguments
+    QMap<QString, QString> befehlsoptionen; // by name ("--rows"); a switch holds an empty text
 
     // The value of a command option ("--rows 1-3"), or nothing.
     std::optional<QString> option(const QString& name) const;
     bool schalter(const QString& name) const;
 };
 
-// Reads the arguments; a message on failure.
+// Reads the arguments that follow the program's name. Global options stand before the command and
+// the command's own options behind it; --yes and --help may stand on either side. Nothing, with a
+// message, for an unknown command or option, a missing value or an argument too many.
 std::optional<Optionen> optionenLesen(const QStringList& argumente, QString& fehler);
 
 extern const char* const Gebrauch;

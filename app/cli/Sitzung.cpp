@@ -36,6 +36,12 @@ Sitzung::Sitzung(const Optionen& o)
         modul().portPfad = o.port;
     if (!o.typ.isEmpty())
         k.setPrüfgeräteTypID(o.typ.toInt());
+    if (!o.kunde.isEmpty())
+        k.setListeKundeID(o.kunde.toInt());
+    if (!o.anlage.isEmpty())
+        k.setListeAnlageID(o.anlage.toInt());
+    if (!o.prüfung.isEmpty())
+        k.setListePrüfungID(o.prüfung.toInt());
 }
 
 bool Sitzung::bereit() const {

@@ -1,6 +1,7 @@
 #include "language/SprachDatenbank.h"
 
 #include "core/ModulState.h"
+#include "platform/Version.h"
 #include "store/Datenbank.h"
 #include "store/Schema.h"
 
@@ -24,6 +25,7 @@ void spracheEinstellen(const QString& sprache) {
     sprachen.setVerzeichnisDatenbank(modul().Datenbankverzeichnis);
     sprachen.setNameDatenbank(sprachdatenbank::DateiName);
     sprachen.setPasswort(sprachdatenbank::Passwort);
+    sprachen.setVersion(komponentenVersion);
     if (mitFalle([&] { sprachen.DatenbankZuweisen(); }))
         sprachen.spracheWählen(sprache);
     else

@@ -2,7 +2,10 @@
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QUrl>
+#include <memory>
 #include <optional>
 
 namespace vemo {
@@ -20,13 +23,29 @@ constexpr Wurzel wurzeln[] = {
     {Tools::HkeyUsers, "HKEY_USERS"},
 };
 
-// The registry of this platform. There is none here: no key can be opened and no value read, so the
-// component's questions to it are answered with "not there", as for a missing key.
-std::optional<quint32> registrySchlüsselÖffnen(quint32, const QString&) {
+// A name of the registry's, found without regard to case as the registry finds it; nothing when
+// there is no such name.
+std::optional<QString> gleichnamig(const QStringList& namen, const QString& gesucht) {
+    for (const QString& name : namen)
+        if (name.compare(gesucht, Qt::CaseInsensitive) == 0)
+            return name;
     return std::nullopt;
 }
-std::optional<QString> registryTextLesen(quint32, const QString&) {
-    return std::nullopt;
+
+// The key of a full path ("HKEY_CURRENT_USER\Software\..."), its groups entered; nothing when
+// the key is not there.
+std::unique_ptr<QSettings> schlüssel(const QString& pfad) {
+    QStringList teile = pfad.split('\\', Qt::SkipEmptyParts);
+    if (teile.isEmpty())
+        return nullptr;
+    auto s = std::make_unique<QSettings>(Tools::registryOrt(teile.takeFirst()), QSettings::NativeFormat);
+    for (const QString& teil : std::as_const(teile)) {
+        const std::optional<QString> gruppe = gleichnamig(s->childGroups(), teil);
+        if (!gruppe)
+            return nullptr;
+        s->beginGroup(*gruppe);
+    }
+    return s;
 }
 
 } // namespace
@@ -38,13 +57,23 @@ bool Tools::AnwendungMitDateiStarten(qint32, const QString& datei, const QString
     return true;
 }
 
+QString Tools::registryOrt(const QString& wurzel) {
+#ifdef Q_OS_WIN
+    return wurzel;
+#else
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/vemotrix/registry/" +
+           wurzel + ".conf";
+#endif
+}
+
 bool Tools::SchlüsselÖffnen(quint32 eltern, const QString& unterschlüssel, quint32& handle) {
     const QString elternPfad = SchlüsselPfad(eltern);
-    const std::optional<quint32> neu = registrySchlüsselÖffnen(eltern, unterschlüssel);
-    if (!neu)
+    const QString pfad = elternPfad + "\\" + unterschlüssel;
+    if (elternPfad.isEmpty() || !schlüssel(pfad))
         return false;
-    handle = *neu;
-    m_offeneSchlüssel.push_back({*neu, elternPfad + "\\" + unterschlüssel});
+    // Handles of opened keys count up from 1, below the root keys; none is ever given twice.
+    handle = quint32(m_offeneSchlüssel.size() + 1);
+    m_offeneSchlüssel.push_back({handle, pfad});
     return true;
 }
 
@@ -60,10 +89,17 @@ QString Tools::SchlüsselPfad(quint32 handle) const {
 
 bool Tools::WertLesen(quint32 handle, const QString& wertName, QString& text) const {
     text.clear();
-    const std::optional<QString> wert = registryTextLesen(handle, wertName);
-    if (!wert)
+    const QString pfad = SchlüsselPfad(handle);
+    const std::unique_ptr<QSettings> s = pfad.isEmpty() ? nullptr : schlüssel(pfad);
+    if (!s)
         return false;
-    text = wert->left(wert->indexOf(QChar(0)));
+    // The value without a name is the key's own, which QSettings calls "Default".
+    const QString name = wertName.isEmpty() ? QString("Default") : wertName;
+    const QVariant wert = s->value(gleichnamig(s->childKeys(), name).value_or(name));
+    if (wert.typeId() != QMetaType::QString)
+        return false;
+    text = wert.toString();
+    text = text.left(text.indexOf(QChar(0)));
     return true;
 }
 

@@ -23,6 +23,12 @@ public:
     static bool AnwendungMitDateiStarten(qint32 fenster, const QString& datei, const QString& parameter,
                                          const QString& verzeichnis);
 
+    // What QSettings opens in its native format for a root key ("HKEY_CURRENT_USER"): on Windows the
+    // registry's root key itself; elsewhere, where there is no registry, the ini-style file
+    // vemotrix/registry/HKEY_CURRENT_USER.conf in the user's config folder, whose groups are the
+    // key's subkeys and whose keys its values.
+    static QString registryOrt(const QString& wurzel);
+
     // Opens a subkey of an open key and gives its handle. False when the key cannot be had.
     bool SchlüsselÖffnen(quint32 eltern, const QString& unterschlüssel, quint32& handle);
     // The full path of an open key: a root key's name, else the path noted when it was opened;

@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QObject>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QUrl>
 #include <gtest/gtest.h>
@@ -32,22 +33,68 @@ TEST(ToolsTest, DateiGehtAnDenDesktop) {
     EXPECT_EQ(desktop.urls[1], QUrl::fromLocalFile(dir.filePath("Hilfe.pdf")));
 }
 
-TEST(ToolsTest, RegistryOhneSchlüssel) {
-    Tools tools;
-    EXPECT_EQ(tools.SchlüsselPfad(0x80000002), "HKEY_LOCAL_MACHINE");
-    EXPECT_EQ(tools.SchlüsselPfad(0x80000000), "HKEY_CLASSES_ROOT");
-    EXPECT_EQ(tools.SchlüsselPfad(0x80000003), "HKEY_USERS");
-    EXPECT_EQ(tools.SchlüsselPfad(0x80000004), "");
-    EXPECT_EQ(tools.SchlüsselPfad(0), "");
+// The registry as the platform keeps it, written first into a folder of the test's own.
+class RegistryTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        m_altesConfig = qgetenv("XDG_CONFIG_HOME");
+        qputenv("XDG_CONFIG_HOME", m_dir.path().toLocal8Bit());
+        QSettings benutzer(Tools::registryOrt("HKEY_CURRENT_USER"), QSettings::NativeFormat);
+        benutzer.beginGroup("Software/vemotrix/Pfade");
+        benutzer.setValue("Sicherung", "C:\\Daten\\Sicherung");
+        benutzer.setValue("Default", "Pfade der Werkstatt");
+        benutzer.setValue("Mit Null", QString("vorn") + QChar(0) + "hinten");
+        benutzer.setValue("Liste", QStringList{"COM1", "COM2"});
+    }
+    void TearDown() override { qputenv("XDG_CONFIG_HOME", m_altesConfig); }
 
-    // This platform keeps no registry: nothing opens, nothing is read, nothing is remembered.
-    quint32 handle = 7;
-    EXPECT_FALSE(tools.SchlüsselÖffnen(0x80000001, "Software\\vemotrix", handle));
-    EXPECT_EQ(handle, 7u);
-    EXPECT_EQ(tools.SchlüsselPfad(7), "");
-    QString text = "alt";
-    EXPECT_FALSE(tools.WertLesen(0x80000001, "Pfad", text));
+    QTemporaryDir m_dir;
+    QByteArray m_altesConfig;
+    Tools m_tools;
+};
+
+TEST_F(RegistryTest, WurzelnHabenIhreNamen) {
+    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000002), "HKEY_LOCAL_MACHINE");
+    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000000), "HKEY_CLASSES_ROOT");
+    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000003), "HKEY_USERS");
+    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000004), "");
+    EXPECT_EQ(m_tools.SchlüsselPfad(0), "");
+}
+
+TEST_F(RegistryTest, SchlüsselUndTexteWerdenGelesen) {
+    quint32 vemotrix = 0;
+    ASSERT_TRUE(m_tools.SchlüsselÖffnen(Tools::HkeyCurrentUser, "Software\\vemotrix", vemotrix));
+    EXPECT_EQ(m_tools.SchlüsselPfad(vemotrix), "HKEY_CURRENT_USER\\Software\\vemotrix");
+    quint32 pfade = 0;
+    ASSERT_TRUE(m_tools.SchlüsselÖffnen(vemotrix, "PFADE", pfade)); // the registry ignores case
+    EXPECT_NE(pfade, vemotrix);
+    EXPECT_EQ(m_tools.SchlüsselPfad(pfade), "HKEY_CURRENT_USER\\Software\\vemotrix\\PFADE");
+
+    QString text;
+    EXPECT_TRUE(m_tools.WertLesen(pfade, "sicherung", text));
+    EXPECT_EQ(text, "C:\\Daten\\Sicherung");
+    EXPECT_TRUE(m_tools.WertLesen(pfade, "", text)); // the key's own value
+    EXPECT_EQ(text, "Pfade der Werkstatt");
+    EXPECT_TRUE(m_tools.WertLesen(pfade, "Mit Null", text));
+    EXPECT_EQ(text, "vorn");
+
+    // No text, no value, no key: False and nothing handed out.
+    EXPECT_FALSE(m_tools.WertLesen(pfade, "Liste", text));
     EXPECT_EQ(text, "");
+    text = "alt";
+    EXPECT_FALSE(m_tools.WertLesen(pfade, "Fehlt", text));
+    EXPECT_EQ(text, "");
+    EXPECT_FALSE(m_tools.WertLesen(vemotrix, "Sicherung", text)); // a value of the subkey only
+    EXPECT_FALSE(m_tools.WertLesen(77, "Sicherung", text));
+}
+
+TEST_F(RegistryTest, FehlendeSchlüsselÖffnenNichts) {
+    quint32 handle = 7;
+    EXPECT_FALSE(m_tools.SchlüsselÖffnen(Tools::HkeyLocalMachine, "Software\\vemotrix", handle));
+    EXPECT_FALSE(m_tools.SchlüsselÖffnen(Tools::HkeyCurrentUser, "Software\\vemotrix\\Fehlt", handle));
+    EXPECT_FALSE(m_tools.SchlüsselÖffnen(42, "Software", handle)); // a parent never opened
+    EXPECT_EQ(handle, 7u);
+    EXPECT_EQ(m_tools.SchlüsselPfad(1), ""); // nothing was remembered
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "grid/GridBefehle.h"
 #include "host/DateiEinlesen.h"
 #include "host/Modul15a.h"
+#include "language/SprachDatenbank.h"
 #include "parsers/PruefgeraetEintragen.h"
 #include "platform/Zahlformat.h"
 #include "store/Recordset.h"
@@ -166,6 +167,48 @@ TEST_F(UebernahmeTest, InstrumentsFillTheFirstFreeSlotOnce) {
     PrüfgerätEintragen(3, prüfung, zeile); // no slot left: nothing happens
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE PrüfgerätName4 LIKE '%4712%'"), "0");
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
+}
+
+// A new inspection gets the equipment table in its user's language, in every language the language
+// database offers; the English one also under the certificate rules of the take-over.
+TEST_F(UebernahmeTest, ANewInspectionGetsTheEquipmentTableOfItsLanguage) {
+    spracheDatenbankAnlegen(m_dir.path());
+    const Datenbank sprachDb = Datenbank::OpenDatabase(pfad(sprachdatenbank::DateiName));
+    const Recordset spalten = sprachDb.OpenRecordset("Sprache");
+    QStringList sprachen;
+    for (int i = 0; i < spalten.FieldCount(); ++i)
+        if (spalten.FieldName(i) != "TextID" && spalten.FieldName(i) != "VersionID")
+            sprachen << spalten.FieldName(i);
+    ASSERT_GE(sprachen.size(), 4);
+
+    const QString tabelle =
+        "SELECT Group_Concat(Zeile || '/' || Spalte || ' ' || inhalt, '; ') FROM (SELECT * "
+        "FROM [%1] WHERE %2 ORDER BY Zeile, Spalte)";
+    for (int i = 0; i < sprachen.size(); ++i) {
+        const QString& sprache = sprachen[i];
+        SCOPED_TRACE(sprache.toStdString());
+        spracheEinstellen(sprache);
+        ASSERT_EQ(modul().sprachen.Sprache(), sprache);
+        // The chosen inspection goes at another workplace while the grid shows it, so the run makes
+        // a new one: under the certificate rules the only way to a new inspection.
+        const QString gewählt = QString::number(500 + i);
+        sql("INSERT INTO \"0100_Prüfung\" (PrüfungID, AnlagenID) VALUES (" + gewählt + ", 2);");
+        zeile(i + 1, 1, 2, "", "1", "1", 500 + i);
+        übernehmen("DELETE FROM \"0100_Prüfung\" WHERE PrüfungID = " + gewählt + ";");
+        ASSERT_EQ(anzahl("0100_EinleseDaten"), 0) << m_ui.texte().join(" | ").toStdString();
+
+        const QString prüfung = wert("SELECT Max(PrüfungID) FROM 0100_Prüfung WHERE AnlagenID = 2");
+        const QString vorlage =
+            wert(tabelle.arg("0100_Betriebsmittelstandard", "SPRACHE = '" + sprache + "'"));
+        EXPECT_EQ(wert(tabelle.arg("0100_Betriebsmittel", "PrüfungID = " + prüfung)), vorlage);
+        EXPECT_TRUE(vorlage.startsWith(sprache.startsWith("English") ? "1/1 Equipment; 1/2 Quantity"
+                                                                     : "1/1 Betriebsmittel; 1/2 Anzahl"))
+            << vorlage.toStdString();
+        EXPECT_EQ(vorlage.count(';'), 9);
+    }
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = 2"),
+              QString::number(sprachen.size()));
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
 }
 
 } // namespace

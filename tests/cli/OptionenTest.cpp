@@ -1,0 +1,150 @@
+#include "Optionen.h"
+#include "Sitzung.h"
+
+#include "language/SprachDatenbank.h"
+#include "platform/Version.h"
+#include "store/Variant.h"
+#include "support/Testumgebung.h"
+
+#include <QProcess>
+
+namespace vemo::test {
+namespace {
+
+std::optional<Optionen> lesen(const QStringList& argumente) {
+    QString fehler;
+    auto o = optionenLesen(argumente, fehler);
+    EXPECT_EQ(o.has_value(), fehler.isEmpty()) << fehler.toStdString();
+    return o;
+}
+
+TEST(OptionenTest, GlobaleOptionenVorUndBefehlsoptionenHinterDemBefehl) {
+    const auto o = lesen({"--db",     "a.db",       "--language", "English (United Kingdom)",
+                          "--backup", "sich",       "--settings", "s.ini",
+                          "--locale", "de_DE",      "--replica",  "7",
+                          "--port",   "/dev/pts/3", "--type=100", "--customer",
+                          "1",        "--plant",    "2",          "--inspection",
+                          "3",        "assign",     "--rows",     "1-3",
+                          "--column", "2",          "--key",      "-5",
+                          "--yes"});
+    ASSERT_TRUE(o);
+    EXPECT_EQ(o->anfrage, Anfrage::Befehl);
+    EXPECT_EQ(
+        QStringList({o->db, o->sprache, o->backup, o->settings, o->locale, o->replica, o->port, o->typ}),
+        QStringList(
+            {"a.db", "English (United Kingdom)", "sich", "s.ini", "de_DE", "7", "/dev/pts/3", "100"}));
+    EXPECT_EQ(QStringList({o->kunde, o->anlage, o->prüfung}), QStringList({"1", "2", "3"}));
+    EXPECT_TRUE(o->ja); // --yes may also stand behind the command
+    EXPECT_EQ(o->befehl, "assign");
+    EXPECT_EQ(o->option("--rows"), "1-3");
+    EXPECT_EQ(o->option("--column"), "2");
+    EXPECT_EQ(o->option("--key"), "-5");
+    EXPECT_FALSE(o->schalter("--json"));
+
+    const auto init = lesen({"init-db", "neu.db", "--demo"});
+    ASSERT_TRUE(init);
+    EXPECT_EQ(init->argumente, QStringList{"neu.db"});
+    EXPECT_TRUE(init->schalter("--demo"));
+    EXPECT_FALSE(init->ja);
+    const auto grid = lesen({"--db", "a.db", "grid", "--json"});
+    ASSERT_TRUE(grid);
+    EXPECT_TRUE(grid->schalter("--json"));
+    EXPECT_FALSE(grid->option("--rows"));
+}
+
+TEST(OptionenTest, HilfeUndVersionBrauchenKeinenBefehl) {
+    for (const QStringList& aufruf :
+         {QStringList{"--help"}, QStringList{"-h"}, QStringList{"--db", "a.db", "-h"},
+          QStringList{"--db", "a.db", "receive", "--help"}}) {
+        const auto o = lesen(aufruf);
+        ASSERT_TRUE(o) << aufruf.join(' ').toStdString();
+        EXPECT_EQ(o->anfrage, Anfrage::Gebrauch) << aufruf.join(' ').toStdString();
+    }
+    const auto o = lesen({"--version"});
+    ASSERT_TRUE(o);
+    EXPECT_EQ(o->anfrage, Anfrage::Version);
+}
+
+// What the contract does not hold is refused, never ignored: an option of another command, a
+// global option behind the command, and what this version has not built (read-file --start, the
+// commands assign-device, instrument and import).
+TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
+    const QList<QStringList> aufrufe{
+        {},
+        {"--db", "a.db"},
+        {"--frob", "grid"},
+        {"--db"},
+        {"--db", "a.db", "frob"},
+        {"--db", "a.db", "grid", "--rows", "1"},
+        {"--db", "a.db", "grid", "extra"},
+        {"--db", "a.db", "assign", "--rows"},
+        {"--db", "a.db", "read-file", "a.ser", "b.ser"},
+        {"--db", "a.db", "grid", "--db", "b.db"},
+        {"--db", "a.db", "--customer", "Sommer", "grid"},
+        {"--db", "a.db", "read-file", "a.ser", "--start", "01.02.2024 10:11:12"},
+        {"--db", "a.db", "assign-device", "--customer", "1"},
+        {"--db", "a.db", "instrument", "--sync-clock"},
+        {"--db", "a.db", "import", "alt.mdb"},
+    };
+    for (const QStringList& aufruf : aufrufe) {
+        QString fehler;
+        EXPECT_FALSE(optionenLesen(aufruf, fehler)) << aufruf.join(' ').toStdString();
+        EXPECT_FALSE(fehler.isEmpty()) << aufruf.join(' ').toStdString();
+    }
+}
+
+// The host's list selection of the command line reaches the component's properties.
+class SitzungTest : public Testumgebung {};
+
+TEST_F(SitzungTest, AuswahlDerListeWirdGesetzt) {
+    spracheDatenbankAnlegen(m_dir.path());
+    const auto o = lesen({"--db", m_dbPfad, "--settings", pfad("s.ini"), "--customer", "3", "--plant", "4",
+                          "--inspection", "5", "grid"});
+    ASSERT_TRUE(o);
+    Sitzung s(*o);
+    ASSERT_TRUE(s.bereit());
+    EXPECT_EQ(text(s.komponente().ListeKundeID()), "3");
+    EXPECT_EQ(text(s.komponente().ListeAnlageID()), "4");
+    EXPECT_EQ(text(s.komponente().ListePrüfungID()), "5");
+    EXPECT_EQ(s.ergebnis(), 0);
+}
+
+struct Lauf {
+    int status;
+    QString aus;
+    QString fehler;
+};
+
+Lauf programm(const QStringList& argumente) {
+    QProcess p;
+    p.start(QString(VEMO_BIN_DIR) + "/vemo0100", argumente);
+    EXPECT_TRUE(p.waitForFinished(10000)) << argumente.join(' ').toStdString();
+    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
+            QString::fromLocal8Bit(p.readAllStandardOutput()),
+            QString::fromLocal8Bit(p.readAllStandardError())};
+}
+
+// The usage asked for goes to standard output with status 0; a usage error to stderr with status 2.
+TEST(ProgrammTest, HilfeVersionUndFalscherAufruf) {
+    for (const QStringList& aufruf : {QStringList{"--help"}, QStringList{"-h"}}) {
+        const Lauf l = programm(aufruf);
+        EXPECT_EQ(l.status, 0);
+        EXPECT_EQ(l.aus, Gebrauch);
+        EXPECT_EQ(l.fehler, "");
+    }
+    const Lauf version = programm({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.aus, "vemo0100 " + komponentenVersion + "\n");
+
+    for (const QStringList& aufruf : {QStringList{"frobnicate"}, QStringList{"--frob"}, QStringList{}}) {
+        const Lauf l = programm(aufruf);
+        EXPECT_EQ(l.status, 2) << aufruf.join(' ').toStdString();
+        EXPECT_EQ(l.aus, "");
+        EXPECT_TRUE(l.fehler.startsWith("vemo0100: ")) << l.fehler.toStdString();
+        EXPECT_TRUE(l.fehler.endsWith(Gebrauch)) << l.fehler.toStdString();
+    }
+    EXPECT_TRUE(programm({"frobnicate"}).fehler.contains("frobnicate"));
+}
+
+} // namespace
+} // namespace vemo::test
