@@ -105,8 +105,7 @@ struct RecordsetDaten {
 
     void abfrageLaden() {
         Schritt s(v->anweisung(abfrage));
-        for (int i = 0; i < parameter.size(); ++i)
-            s.binden(i + 1, parameter[i]);
+        s.platzhalterBinden(parameter);
         const int versatz = mitRowid ? 1 : 0;
         while (s.weiter()) {
             Zeile z;

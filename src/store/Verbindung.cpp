@@ -298,6 +298,14 @@ Schritt::~Schritt() {
     sqlite3_clear_bindings(m_s);
 }
 
+void Schritt::platzhalterBinden(const QVector<QVariant>& werte) {
+    const int platzhalter = sqlite3_bind_parameter_count(m_s);
+    if (platzhalter > werte.size())
+        throw fehler::mit(fehler::ZuWenigeParameter, "Erwartet: " + QString::number(platzhalter));
+    for (int i = 0; i < platzhalter; ++i)
+        binden(i + 1, werte[i]);
+}
+
 void Schritt::binden(int index, const QVariant& wert) {
     if (istLeer(wert)) {
         sqlite3_bind_null(m_s, index);

@@ -69,6 +69,8 @@ public:
     Schritt& operator=(const Schritt&) = delete;
 
     void binden(int index, const QVariant& wert);
+    // Binds the values to the placeholders in order; a placeholder without a value raises 3061.
+    void platzhalterBinden(const QVector<QVariant>& werte);
     bool weiter(); // true while a row stands; raises the store's error on failure
     QVariant wert(int spalte, Typklasse klasse = Typklasse::Frei) const;
     sqlite3_stmt* anweisung() const { return m_s; }
