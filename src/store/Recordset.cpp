@@ -573,7 +573,9 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
     d->v = v;
     d->name = name;
     d->parameter = parameter;
-    sqlite3_stmt* s = nullptr;
+    // Held, not borrowed: looking up the table below prepares statements that may push it out of
+    // the cache.
+    Anweisung s;
     if (ü.einfacheAuswahl) {
         try {
             s = v->anweisung(ü.sqlMitRowid);
@@ -588,22 +590,22 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
         d->abfrage = ü.sql;
     }
     const int versatz = d->mitRowid ? 1 : 0;
-    const int anzahl = sqlite3_column_count(s);
+    const int anzahl = sqlite3_column_count(s.get());
     QString tabellenName;
     for (int i = versatz; i < anzahl; ++i) {
         Spalte sp;
-        sp.name = QString::fromUtf8(sqlite3_column_name(s, i));
-        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s, i));
+        sp.name = QString::fromUtf8(sqlite3_column_name(s.get(), i));
+        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s.get(), i));
         sp.klasse = typklasse(sp.typ);
-        if (const char* t = sqlite3_column_table_name(s, i); t && tabellenName.isEmpty())
+        if (const char* t = sqlite3_column_table_name(s.get(), i); t && tabellenName.isEmpty())
             tabellenName = QString::fromUtf8(t);
         d->spalten.push_back(sp);
     }
     if (d->mitRowid && !tabellenName.isEmpty()) {
         d->tabelle = v->tabelle(tabellenName);
         for (int i = versatz; i < anzahl && d->tabelle; ++i) {
-            const char* t = sqlite3_column_table_name(s, i);
-            const char* ursprung = sqlite3_column_origin_name(s, i);
+            const char* t = sqlite3_column_table_name(s.get(), i);
+            const char* ursprung = sqlite3_column_origin_name(s.get(), i);
             if (t && ursprung && tabellenName.compare(QString::fromUtf8(t), Qt::CaseInsensitive) == 0)
                 d->spalten[i - versatz].tabellenIndex = d->tabelle->index(QString::fromUtf8(ursprung));
         }

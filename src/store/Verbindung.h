@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
+#include <list>
 #include <memory>
 #include <sqlite3.h>
 
@@ -19,11 +20,19 @@ Typklasse typklasse(const QString& deklariert);
 // columns. A value the column cannot take raises 13.
 QVariant spaltenwert(const QVariant& wert, Typklasse klasse);
 
+// A prepared statement, finalized when the last holder lets it go: the cache may drop it while a
+// Schritt still runs it.
+using Anweisung = std::shared_ptr<sqlite3_stmt>;
+
 // One open SQLite connection with its prepared statements and what it knows of its tables.
 // Every statement is reset as soon as its rows are read, so that no statement stays open and each
 // write commits by itself.
 class Verbindung {
 public:
+    // Statements kept prepared. The logic splices keys into its statements, so that a long run
+    // prepares a new text for nearly every row; the least recently used one goes.
+    static constexpr int AnweisungenImCache = 128;
+
     Verbindung(const QString& pfad, bool anlegen);
     ~Verbindung();
     Verbindung(const Verbindung&) = delete;
@@ -45,7 +54,8 @@ public:
     const QString& pfad() const { return m_pfad; }
 
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
-    sqlite3_stmt* anweisung(const QString& sql);
+    Anweisung anweisung(const QString& sql);
+    int anweisungenImCache() const { return int(m_anweisungen.size()); }
     // What the store knows of a table; null when there is no such table. Record sets keep their
     // table's description alive, also across a change of the schema.
     std::shared_ptr<const Tabelle> tabelle(const QString& name);
@@ -54,16 +64,19 @@ public:
     void schemaGeändert();
 
 private:
+    using Cache = std::list<std::pair<QString, Anweisung>>; // the most recently used first
+
     sqlite3* m_db = nullptr;
     QString m_pfad;
-    QHash<QString, sqlite3_stmt*> m_anweisungen;
+    Cache m_zuletzt;
+    QHash<QString, Cache::iterator> m_anweisungen;
     QHash<QString, std::shared_ptr<const Tabelle>> m_tabellen; // by lower-case name
 };
 
 // Runs a prepared statement and resets it when it goes out of scope.
 class Schritt {
 public:
-    explicit Schritt(sqlite3_stmt* s) : m_s(s) {}
+    explicit Schritt(Anweisung s) : m_s(std::move(s)) {}
     ~Schritt();
     Schritt(const Schritt&) = delete;
     Schritt& operator=(const Schritt&) = delete;
@@ -73,10 +86,10 @@ public:
     void platzhalterBinden(const QVector<QVariant>& werte);
     bool weiter(); // true while a row stands; raises the store's error on failure
     QVariant wert(int spalte, Typklasse klasse = Typklasse::Frei) const;
-    sqlite3_stmt* anweisung() const { return m_s; }
+    sqlite3_stmt* anweisung() const { return m_s.get(); }
 
 private:
-    sqlite3_stmt* m_s;
+    Anweisung m_s;
 };
 
 // The error of a failed SQLite call, with the number the system's messages use.
