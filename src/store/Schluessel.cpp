@@ -42,6 +42,55 @@ bool replicaGewechselt(const QVariant& gecacht, const QVariant& aktuell) {
     return text(gecacht) != text(aktuell);
 }
 
+// The counter of a table in the replica's range.
+Recordset zählerÖffnen(qint64 offsetFaktor, const QString& name) {
+    // The table name goes into the statement as it stands: an apostrophe in it fails the count.
+    return db().OpenRecordset("SELECT * FROM IDIncrement WHERE OffsetFaktor = " +
+                              QString::number(offsetFaktor) + " And TabelleName = '" + name + "'");
+}
+
+qint32 weiterzählen(Recordset& z) {
+    z.Edit();
+    const qint64 neu = ganzzahl(z.Field("LastID")) + 1;
+    if (neu > INT32_MAX)
+        throw fehler::mit(fehler::Überlauf);
+    z.setField("LastID", neu);
+    z.Update();
+    z.setBookmark(z.LastModified());
+    return qint32(neu);
+}
+
+// The table has no counter yet. AddNew holds the write lock; a second look under it finds a
+// counter that another writer added since the cursor was opened, and the count goes on there
+// instead of starting a second counter for the same table.
+qint32 zählerAnlegen(Recordset& z, qint64 offsetFaktor, const QString& name) {
+    const qint64 erster = offsetFaktor * 100000000 + 10000;
+    if (erster > INT32_MAX || erster < INT32_MIN)
+        throw fehler::mit(fehler::Überlauf);
+    z.AddNew();
+    if (Recordset jetzt = zählerÖffnen(offsetFaktor, name); !jetzt.Eof()) {
+        z.CancelUpdate();
+        z = jetzt;
+        return weiterzählen(z);
+    }
+    z.setField("OffsetFaktor", offsetFaktor);
+    z.setField("TabelleName", name);
+    z.setField("LastID", erster);
+    z.Update();
+    z.setBookmark(z.LastModified());
+    return qint32(erster);
+}
+
+// A count that fails ends the pending change, so that the counter cursor, which lives on, does
+// not keep the write lock while the trap shows its message.
+struct ZählungAbbrechen {
+    Recordset& zähler;
+    ~ZählungAbbrechen() {
+        if (zähler.istOffen())
+            zähler.CancelUpdate();
+    }
+};
+
 } // namespace
 
 qint32 NeueID(const QString& tabelle, const QString& quelle) {
@@ -55,6 +104,7 @@ qint32 NeueID(const QString& tabelle, const QString& quelle) {
     }
     qint32 ergebnis = 0;
     mitFalle([&] {
+        const ZählungAbbrechen abbrechen{c.zähler};
         const QVariant replica = modul().vmxReplicaID;
         if (replicaGewechselt(c.replica, replica)) {
             Recordset r = db().OpenRecordset("SELECT Description FROM MSysReplicas WHERE ReplicaID =  " +
@@ -64,32 +114,10 @@ qint32 NeueID(const QString& tabelle, const QString& quelle) {
             c.tabelle.clear();
         }
         if (c.tabelle != name) {
-            // The table name goes into the statement as it stands: an apostrophe in it fails the count.
-            c.zähler = db().OpenRecordset(
-                "SELECT * FROM IDIncrement WHERE OffsetFaktor = " + QString::number(c.offsetFaktor) +
-                " And TabelleName = '" + name + "'");
+            c.zähler = zählerÖffnen(c.offsetFaktor, name);
             c.tabelle = name;
         }
-        Recordset& z = c.zähler;
-        if (!z.Eof()) {
-            z.Edit();
-            const qint64 neu = ganzzahl(z.Field("LastID")) + 1;
-            if (neu > INT32_MAX)
-                throw fehler::mit(fehler::Überlauf);
-            z.setField("LastID", neu);
-            ergebnis = qint32(neu);
-        } else {
-            const qint64 erster = c.offsetFaktor * 100000000 + 10000;
-            if (erster > INT32_MAX || erster < INT32_MIN)
-                throw fehler::mit(fehler::Überlauf);
-            z.AddNew();
-            z.setField("OffsetFaktor", c.offsetFaktor);
-            z.setField("TabelleName", name);
-            z.setField("LastID", erster);
-            ergebnis = qint32(erster);
-        }
-        z.Update();
-        z.setBookmark(z.LastModified());
+        ergebnis = c.zähler.Eof() ? zählerAnlegen(c.zähler, c.offsetFaktor, name) : weiterzählen(c.zähler);
     });
     return ergebnis;
 }

@@ -7,7 +7,9 @@
 #include <QDate>
 #include <QDateTime>
 #include <QFileInfo>
+#include <cassert>
 #include <cmath>
+#include <utility>
 
 namespace vemo::detail {
 namespace {
@@ -203,6 +205,7 @@ Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
 }
 
 Verbindung::~Verbindung() {
+    assert(m_sperren == 0); // every hold belongs to a record set, which keeps its connection
     m_anweisungen.clear();
     m_zuletzt.clear();
     // A statement still held elsewhere keeps the connection until it is finalized.
@@ -298,6 +301,74 @@ void Verbindung::schemaGeändert() {
     m_tabellen.clear();
     m_anweisungen.clear();
     m_zuletzt.clear();
+}
+
+bool Verbindung::anweisungLäuft() const {
+    for (sqlite3_stmt* s = sqlite3_next_stmt(m_db, nullptr); s; s = sqlite3_next_stmt(m_db, s))
+        if (sqlite3_stmt_busy(s))
+            return true;
+    return false;
+}
+
+// Under WAL a connection still reading from an older snapshot is refused the lock at once when
+// another writer has committed since; from a fresh snapshot it waits under the busy timeout. Every
+// statement is reset when its rows are read, so that each new try starts from a fresh snapshot.
+void Verbindung::beginnen() {
+    assert(!anweisungLäuft());
+    constexpr int Versuche = 5;
+    int rc = SQLITE_OK;
+    for (int versuch = 0; versuch < Versuche; ++versuch) {
+        rc = sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+        if (rc == SQLITE_OK || sqlite3_extended_errcode(m_db) != SQLITE_BUSY_SNAPSHOT)
+            break;
+    }
+    if (rc != SQLITE_OK)
+        sqliteFehler(m_db, rc, "BEGIN IMMEDIATE");
+}
+
+// Ends the transaction with a commit, or, when that fails, with a rollback, so that the connection
+// is never left inside a transaction. SQLite may have rolled back already after an error.
+int Verbindung::beenden() noexcept {
+    if (sqlite3_get_autocommit(m_db))
+        return SQLITE_OK;
+    const int rc = sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+    if (rc != SQLITE_OK)
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    return rc;
+}
+
+void Verbindung::sperreNehmen() {
+    if (m_sperren == 0)
+        beginnen();
+    ++m_sperren;
+}
+
+void Verbindung::sperreAbgeben() {
+    assert(m_sperren > 0);
+    if (--m_sperren > 0)
+        return;
+    if (const int rc = beenden(); rc != SQLITE_OK)
+        sqliteFehler(m_db, rc, "COMMIT");
+}
+
+void Verbindung::sperreLösen() noexcept {
+    assert(m_sperren > 0);
+    if (--m_sperren == 0)
+        beenden();
+}
+
+Schreibsperre::Schreibsperre(Verbindung& v) : m_v(&v) {
+    v.sperreNehmen();
+}
+
+Schreibsperre::~Schreibsperre() {
+    if (m_v)
+        m_v->sperreLösen();
+}
+
+void Schreibsperre::abgeben() {
+    Verbindung* v = std::exchange(m_v, nullptr);
+    v->sperreAbgeben();
 }
 
 Schritt::~Schritt() {

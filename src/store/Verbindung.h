@@ -8,6 +8,7 @@
 #include <list>
 #include <memory>
 #include <sqlite3.h>
+#include <utility>
 
 namespace vemo::detail {
 
@@ -26,7 +27,7 @@ using Anweisung = std::shared_ptr<sqlite3_stmt>;
 
 // One open SQLite connection with its prepared statements and what it knows of its tables.
 // Every statement is reset as soon as its rows are read, so that no statement stays open and each
-// write commits by itself.
+// write commits by itself, or with the hold on the write lock it was made under.
 class Verbindung {
 public:
     // Statements kept prepared. The logic splices keys into its statements, so that a long run
@@ -63,14 +64,43 @@ public:
     QVector<QVariant> vorgabenJetzt(const Tabelle& t);
     void schemaGeändert();
 
+    // The database's write lock, as the host's pessimistic locking takes it for a row being
+    // changed or added. Holds on one connection nest and share one short transaction, which ends
+    // with the last release, always by a commit: whatever a holder wrote in between stands, as
+    // every Update must. sperreAbgeben raises when that commit fails; sperreLösen does not.
+    void sperreNehmen();
+    void sperreAbgeben();
+    void sperreLösen() noexcept;
+    bool sperreGehalten() const { return m_sperren > 0; }
+
 private:
     using Cache = std::list<std::pair<QString, Anweisung>>; // the most recently used first
+
+    bool anweisungLäuft() const;
+    void beginnen();
+    int beenden() noexcept;
 
     sqlite3* m_db = nullptr;
     QString m_pfad;
     Cache m_zuletzt;
     QHash<QString, Cache::iterator> m_anweisungen;
     QHash<QString, std::shared_ptr<const Tabelle>> m_tabellen; // by lower-case name
+    int m_sperren = 0;
+};
+
+// A hold on the write lock for as long as the object lives, or until it is given back.
+class Schreibsperre {
+public:
+    explicit Schreibsperre(Verbindung& v);
+    ~Schreibsperre();
+    Schreibsperre(Schreibsperre&& andere) noexcept : m_v(std::exchange(andere.m_v, nullptr)) {}
+    Schreibsperre(const Schreibsperre&) = delete;
+    Schreibsperre& operator=(const Schreibsperre&) = delete;
+
+    void abgeben(); // raises when the commit that ends the transaction fails
+
+private:
+    Verbindung* m_v;
 };
 
 // Runs a prepared statement and resets it when it goes out of scope.
