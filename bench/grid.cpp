@@ -25,17 +25,16 @@ public:
         const QString pfad = m_dir.filePath("bench.db");
         datenbankAnlegen(pfad, true);
         modul().db = Datenbank::OpenDatabase(pfad);
-        QString sql = "BEGIN;"
-                      "INSERT INTO \"0100_EinleseGeräteDaten\" (\"GeräteID\", \"PrüfgerätName\") "
-                      "VALUES (1, 'ZEMAK 3710'), (2, '0100-Corvex');";
+        modul().db.Execute("BEGIN");
+        modul().db.Execute("INSERT INTO 0100_EinleseGeräteDaten (GeräteID, PrüfgerätName) "
+                           "VALUES (1, 'ZEMAK 3710'), (2, '0100-Corvex')");
         for (long i = 1; i <= n; ++i)
-            sql += QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, \"GeräteID\", KundeNr, AnlageNr, "
-                           "VerteilerNr, StromkreisNr, Datum, Uhrzeit) "
-                           "VALUES (%1, %2, '12', '001', '001', '00%3', '14.06.2022', '10:00:00');")
-                       .arg(i)
-                       .arg(i <= n / 2 ? 1 : 2)
-                       .arg(i % 2 + 1);
-        modul().db.skriptAusführen(sql + "COMMIT;");
+            modul().db.Execute(
+                "INSERT INTO 0100_EinleseDaten (MessungID, GeräteID, KundeNr, AnlageNr, VerteilerNr, "
+                "StromkreisNr, Datum, Uhrzeit) "
+                "VALUES (?, ?, '12', '001', '001', ?, '14.06.2022', '10:00:00')",
+                {qlonglong(i), i <= n / 2 ? 1 : 2, i % 2 ? "002" : "001"});
+        modul().db.Execute("COMMIT");
     }
     ~Bestand() {
         modul().db.Close();

@@ -17,24 +17,24 @@ using namespace vemo;
 
 namespace {
 
-QString einleseZeilen(int anzahl) {
-    QString sql =
-        "BEGIN;INSERT INTO \"0100_EinleseGeräteDaten\" VALUES (1, '0100-Corvex', '  C12345678', 1, '');";
+QString vierstellig(int n) {
+    return QString("%1").arg(n, 4, 10, QChar('0'));
+}
+
+void einleseZeilenSchreiben(int anzahl) {
+    db().Execute("BEGIN");
+    db().Execute("INSERT INTO 0100_EinleseGeräteDaten VALUES (1, '0100-Corvex', '  C12345678', 1, '')");
     for (int i = 1; i <= anzahl; ++i) {
-        sql +=
-            QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, GeräteID, KundeID, AnlageID, VerteilerNr, "
-                    "StromkreisNr) VALUES (%1, 1, 1, 1, '%2', '%3');")
-                .arg(i)
-                .arg(1 + i / 10, 4, 10, QChar('0'))
-                .arg(1 + i % 10, 4, 10, QChar('0'));
-        sql +=
-            QString(
-                "INSERT INTO \"0100_EinleseMessDaten\" VALUES (%1, 'Riso V', '500', 'V'), (%1, 'Riso MOhm', "
-                "'245', 'MOhm'), (%1, 'LOW Ohm', '0,12', 'Ohm'), (%1, 'Zs', '0,35', 'Ohm'), (%1, 'Zs Ik', "
-                "'657', 'A'), (%1, 'Ri', '0,28', 'Ohm'), (%1, 'Ri Ik', '0,82', 'kA');")
-                .arg(i);
+        db().Execute("INSERT INTO 0100_EinleseDaten (MessungID, GeräteID, KundeID, AnlageID, VerteilerNr, "
+                     "StromkreisNr) VALUES (?, 1, 1, 1, ?, ?)",
+                     {i, vierstellig(1 + i / 10), vierstellig(1 + i % 10)});
+        db().Execute(
+            "INSERT INTO 0100_EinleseMessDaten VALUES (?1, 'Riso V', '500', 'V'), (?1, 'Riso MOhm', "
+            "'245', 'MOhm'), (?1, 'LOW Ohm', '0,12', 'Ohm'), (?1, 'Zs', '0,35', 'Ohm'), (?1, 'Zs Ik', "
+            "'657', 'A'), (?1, 'Ri', '0,28', 'Ohm'), (?1, 'Ri Ik', '0,82', 'kA')",
+            {i});
     }
-    return sql + "COMMIT;";
+    db().Execute("COMMIT");
 }
 
 void Uebernahme(benchmark::State& state) {
@@ -51,7 +51,7 @@ void Uebernahme(benchmark::State& state) {
         datenbankAnlegen(dir.filePath("v.db"), true);
         modul().db = Datenbank::OpenDatabase(dir.filePath("v.db"));
         modul().Datenbankverzeichnis = dir.path();
-        db().skriptAusführen(einleseZeilen(zeilen));
+        einleseZeilenSchreiben(zeilen);
         EinleseDatenController form; // the refresh before the button is the user's, not the run's
         state.ResumeTiming();
         form.übernehmenKlick();

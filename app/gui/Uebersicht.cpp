@@ -19,7 +19,7 @@ enum Rolle { Ebene = Qt::UserRole, Schlüssel };
 
 // One level of the inspection hierarchy: how its rows are found under the parent and labelled.
 struct Stufe {
-    const char* abfrage; // the parent's key is appended
+    const char* abfrage; // below the customers with the parent's key as its one value
     const char* schlüssel;
     std::function<QString(const Recordset&)> beschriftung;
 };
@@ -32,13 +32,13 @@ const std::vector<Stufe>& stufen() {
     static const std::vector<Stufe> s{
         {"SELECT * FROM Kunde ORDER BY Name", "KundeID",
          [](const Recordset& rs) { return (rs.Text("Nummernkreis") + " " + rs.Text("Name")).trimmed(); }},
-        {"SELECT * FROM 0100_Anlage WHERE KundeID = ", "AnlageID", codeNrName},
-        {"SELECT * FROM 0100_Prüfung WHERE AnlagenID = ", "PrüfungID",
+        {"SELECT * FROM 0100_Anlage WHERE KundeID = ? ORDER BY 1", "AnlageID", codeNrName},
+        {"SELECT * FROM 0100_Prüfung WHERE AnlagenID = ? ORDER BY 1", "PrüfungID",
          [](const Recordset& rs) {
              return rs.Text("Datum") + "  " + rs.Text("ProtokollNr") + "  " + rs.Text("PrüfgerätName1");
          }},
-        {"SELECT * FROM 0100_Verteiler WHERE PrüfungID = ", "VerteilerID", codeNrName},
-        {"SELECT * FROM 0100_Stromkreis WHERE VerteilerID = ", "StromkreisID", codeNrName},
+        {"SELECT * FROM 0100_Verteiler WHERE PrüfungID = ? ORDER BY 1", "VerteilerID", codeNrName},
+        {"SELECT * FROM 0100_Stromkreis WHERE VerteilerID = ? ORDER BY 1", "StromkreisID", codeNrName},
     };
     return s;
 }
@@ -107,7 +107,7 @@ void Uebersicht::zweigFüllen(QTreeWidgetItem* knoten) {
         return;
     const Stufe& s = stufen()[size_t(ebene)];
     mitFalle([&] {
-        Recordset rs = db().OpenRecordset(s.abfrage + text(knoten->data(0, Schlüssel)) + " ORDER BY 1");
+        Recordset rs = db().OpenRecordset(s.abfrage, {knoten->data(0, Schlüssel)});
         for (; !rs.Eof(); rs.MoveNext()) {
             auto* k = new QTreeWidgetItem(knoten, {s.beschriftung(rs)});
             k->setData(0, Ebene, ebene);
@@ -133,11 +133,12 @@ void Uebersicht::messungenZeigen(QTreeWidgetItem* knoten) {
         // The columns that hold a measured value in some row, in table order, each followed by its
         // limit; the columns of the heading lines only where they hold anything.
         QStringList köpfe, spalten;
-        Recordset mess = db().OpenRecordset("SELECT * FROM 0100_Messung WHERE StromkreisID = " +
-                                            text(knoten->data(0, Schlüssel)) + " ORDER BY MessID");
+        Recordset mess =
+            db().OpenRecordset("SELECT * FROM 0100_Messung WHERE StromkreisID = ? ORDER BY MessID",
+                               {knoten->data(0, Schlüssel)});
         for (; !mess.Eof(); mess.MoveNext()) {
             const Recordset grenz =
-                db().OpenRecordset("SELECT * FROM 0100_Grenzwert WHERE MessID = " + mess.Text("MessID"));
+                db().OpenRecordset("SELECT * FROM 0100_Grenzwert WHERE MessID = ?", {mess.Field("MessID")});
             Zeile z;
             for (int i = 0; i < mess.FieldCount(); ++i) {
                 const QString name = mess.FieldName(i);

@@ -77,6 +77,7 @@ void NeueZeileVorbelegen(const QString& art, Recordset& rs, const QVariant& elte
 
 void BetriebsmittelAnlegen(const QVariant& prüfungID) {
     Recordset ziel = db().OpenRecordset("0100_Betriebsmittel");
+    // The language name goes into the statement as it stands: an apostrophe in it fails the look-up.
     Recordset vorlage = db().OpenRecordset("SELECT * FROM 0100_Betriebsmittelstandard WHERE SPRACHE = '" +
                                            modul().sprachen.Sprache() + "'");
     for (; !vorlage.Eof(); vorlage.MoveNext()) {

@@ -209,6 +209,7 @@ bool IstKleiner(const QString& alt, const QString& neu) {
 }
 
 bool TeilFunktionSuchen(const QString& name, QString& spaltenname, QString& einheit) {
+    // The function name goes into the statement as it stands: an apostrophe in it fails the look-up.
     Recordset rs = db().OpenRecordset("SELECT * FROM 0100_TeilFunktion WHERE TeilFunktion = '" + name + "'");
     if (rs.Eof())
         return true;
@@ -218,6 +219,7 @@ bool TeilFunktionSuchen(const QString& name, QString& spaltenname, QString& einh
 }
 
 Recordset TeilFunktionUKSuchen(const QString& zertifikat, const QString& name) {
+    // Both texts go into the statement as they stand: an apostrophe in one fails the look-up.
     return db().OpenRecordset("SELECT * FROM 0100_TeilFunktionUK WHERE Zertifikat='" + zertifikat +
                               "' AND TeilFunktion = '" + name + "'");
 }

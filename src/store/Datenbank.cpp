@@ -63,12 +63,22 @@ Recordset Datenbank::OpenRecordset(const QString& quelle) const {
             return QueryDefs(name).OpenRecordset();
         throw fehler::mit(fehler::TabelleNichtGefunden, name);
     }
-    return Recordset(detail::abfrageÖffnen(m_v, quelle, übersetzen(quelle), {}));
+    return OpenRecordset(quelle, {});
+}
+
+Recordset Datenbank::OpenRecordset(const QString& anweisung, const QVector<QVariant>& werte) const {
+    v(); // raises 91 when the database is closed
+    return Recordset(detail::abfrageÖffnen(m_v, anweisung, übersetzen(anweisung), werte));
 }
 
 void Datenbank::Execute(const QString& anweisung) const {
+    Execute(anweisung, {});
+}
+
+void Datenbank::Execute(const QString& anweisung, const QVector<QVariant>& werte) const {
     const Übersetzung ü = übersetzen(anweisung);
     detail::Schritt s(v().anweisung(ü.sql));
+    s.platzhalterBinden(werte);
     while (s.weiter()) {
     }
 }

@@ -46,6 +46,10 @@ public:
 
     Recordset OpenRecordset(const QString& quelle) const;
     void Execute(const QString& anweisung) const;
+    // A statement with "?" placeholders, bound in order to the values, which go in as values and
+    // are never read as part of the statement. A placeholder without a value raises 3061.
+    Recordset OpenRecordset(const QString& anweisung, const QVector<QVariant>& werte) const;
+    void Execute(const QString& anweisung, const QVector<QVariant>& werte) const;
     void TableDefs(const QString& name) const; // raises 3078 when there is no such table
     bool hatTabelle(const QString& name) const;
     bool abfrageVorhanden(const QString& name) const;

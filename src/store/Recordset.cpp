@@ -9,8 +9,10 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
+#include <cassert>
 #include <climits>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace vemo {
@@ -60,6 +62,7 @@ struct RecordsetDaten {
     Modus modus = Modus::Keiner;
     QVector<QVariant> puffer;
     QVector<bool> gesetzt;
+    std::optional<Schreibsperre> sperre; // held from AddNew or Edit to Update, as the host locks
 
     void prüfeOffen() const {
         if (!offen)
@@ -105,8 +108,7 @@ struct RecordsetDaten {
 
     void abfrageLaden() {
         Schritt s(v->anweisung(abfrage));
-        for (int i = 0; i < parameter.size(); ++i)
-            s.binden(i + 1, parameter[i]);
+        s.platzhalterBinden(parameter);
         const int versatz = mitRowid ? 1 : 0;
         while (s.weiter()) {
             Zeile z;
@@ -192,6 +194,28 @@ struct RecordsetDaten {
             throw Fehler(3164, "Das Feld kann nicht aktualisiert werden: " + spalten[i].name);
         puffer[i] = wert;
         gesetzt[i] = true;
+    }
+
+    // A pending AddNew or Edit ends, and with it the hold on the write lock.
+    void bearbeitungBeenden() {
+        modus = Modus::Keiner;
+        sperre.reset();
+    }
+
+    // The current row as the table holds it now: another writer may have changed it since it was
+    // read. Raises 3167 when it has been deleted meanwhile.
+    void zeileNeuLesen() {
+        assert(v->sperreGehalten());
+        assert(pos >= 0 && pos < anzahlGeladen() && !nachLöschen);
+        Zeile& z = zeilen[size_t(pos)];
+        Schritt s(v->anweisung("SELECT " + tabelle->zitierteSpalten.join(',') + " FROM " + tabelle->zitiert +
+                               " WHERE rowid = ?1"));
+        s.binden(1, QVariant(qlonglong(z.rowid)));
+        if (!s.weiter())
+            throw fehler::mit(fehler::DatensatzGelöscht);
+        for (int i = 0; i < spalten.size(); ++i)
+            if (spalten[i].tabellenIndex >= 0)
+                z.werte[i] = s.wert(spalten[i].tabellenIndex, spalten[i].klasse);
     }
 
     void beschreibbarPrüfen() const {
@@ -325,7 +349,7 @@ bool Recordset::Bof() const {
 
 void Recordset::MoveFirst() {
     auto& x = d();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     if (x.leer())
         throw fehler::mit(fehler::KeinAktuellerDatensatz);
     x.pos = 0;
@@ -335,7 +359,7 @@ void Recordset::MoveFirst() {
 
 void Recordset::MoveLast() {
     auto& x = d();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     x.allesLaden();
     if (x.zeilen.empty())
         throw fehler::mit(fehler::KeinAktuellerDatensatz);
@@ -346,7 +370,7 @@ void Recordset::MoveLast() {
 
 void Recordset::MoveNext() {
     auto& x = d();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     if (x.nachLöschen) {
         x.nachLöschen = false; // the row behind the deleted one moved into its place
     } else {
@@ -359,7 +383,7 @@ void Recordset::MoveNext() {
 
 void Recordset::MovePrevious() {
     auto& x = d();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     if (x.pos < 0)
         throw fehler::mit(fehler::KeinAktuellerDatensatz);
     x.nachLöschen = false;
@@ -373,7 +397,7 @@ void Recordset::MovePrevious() {
 
 void Recordset::Move(long anzahl) {
     auto& x = d();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     if (anzahl == 0)
         return;
     if ((anzahl > 0 && x.eof()) || (anzahl < 0 && x.pos < 0))
@@ -403,7 +427,7 @@ void Recordset::setAbsolutePosition(long position) {
     auto& x = d();
     if (position < 0 || !x.holen(position))
         throw fehler::mit(fehler::UngültigerAufruf, "AbsolutePosition " + QString::number(position));
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     x.pos = position;
     x.nachLöschen = false;
     x.besuchen();
@@ -415,7 +439,7 @@ Bookmark Recordset::bookmark() const {
 
 void Recordset::setBookmark(Bookmark marke) {
     auto& x = d();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     const bool nochNichtGeladen =
         std::any_of(x.vorgemerkt.begin(), x.vorgemerkt.end(),
                     [marke](const auto& eintrag) { return eintrag.second == marke; });
@@ -476,22 +500,34 @@ int Recordset::FieldSize(const QString& name) const {
     return m.hasMatch() ? m.captured(1).toInt() : 255;
 }
 
+// A new row takes the write lock as a changed one does, so that a caller can look again for a row
+// that another writer may have added meanwhile, and change that one instead.
 void Recordset::AddNew() {
     auto& x = d();
     x.beschreibbarPrüfen();
-    x.puffer.clear();
+    x.bearbeitungBeenden();
+    detail::Schreibsperre sperre(*x.v);
     const QVector<QVariant> vorgaben = x.v->vorgabenJetzt(*x.tabelle);
+    x.puffer.clear();
     for (const auto& s : std::as_const(x.spalten))
         x.puffer << (s.tabellenIndex >= 0 ? vorgaben[s.tabellenIndex] : nullWert());
     x.gesetzt = QVector<bool>(x.spalten.size(), false);
+    x.sperre.emplace(std::move(sperre));
     x.modus = RecordsetDaten::Modus::Neu;
 }
 
+// Under the write lock the row is read again, so that a value counted on (a key counter) is the
+// one the table holds, not the one this cursor saw before another writer changed it.
 void Recordset::Edit() {
     auto& x = d();
     x.beschreibbarPrüfen();
+    x.bearbeitungBeenden();
+    x.aktuelle(); // raises where the cursor stands on no row
+    detail::Schreibsperre sperre(*x.v);
+    x.zeileNeuLesen();
     x.puffer = x.aktuelle().werte;
     x.gesetzt = QVector<bool>(x.spalten.size(), false);
+    x.sperre.emplace(std::move(sperre));
     x.modus = RecordsetDaten::Modus::Ändern;
 }
 
@@ -500,21 +536,25 @@ void Recordset::Update() {
     const auto modus = x.modus;
     if (modus == RecordsetDaten::Modus::Keiner)
         throw fehler::mit(fehler::OhneAddNewEdit);
-    x.modus = RecordsetDaten::Modus::Keiner; // a failed write leaves no pending row behind
+    assert(x.sperre);
+    // The lock ends with this Update, written or not; a failed write leaves no pending row behind.
+    detail::Schreibsperre sperre = std::move(*x.sperre);
+    x.bearbeitungBeenden();
     if (modus == RecordsetDaten::Modus::Neu)
         x.einfügen();
     else
         x.ändern();
+    sperre.abgeben();
 }
 
 void Recordset::CancelUpdate() {
-    d().modus = RecordsetDaten::Modus::Keiner;
+    d().bearbeitungBeenden();
 }
 
 void Recordset::Delete() {
     auto& x = d();
     x.beschreibbarPrüfen();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     const detail::Zeile& z = x.aktuelle();
     {
         detail::Schritt s(x.v->anweisung("DELETE FROM " + x.tabelle->zitiert + " WHERE rowid = ?1"));
@@ -541,13 +581,15 @@ bool Recordset::NoMatch() const {
 
 void Recordset::Requery() {
     auto& x = d();
-    x.modus = RecordsetDaten::Modus::Keiner;
+    x.bearbeitungBeenden();
     x.laden();
 }
 
 void Recordset::Close() {
-    if (m_d)
-        m_d->offen = false;
+    if (!m_d)
+        return;
+    m_d->bearbeitungBeenden();
+    m_d->offen = false;
 }
 
 } // namespace vemo
@@ -574,7 +616,9 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
     d->v = v;
     d->name = name;
     d->parameter = parameter;
-    sqlite3_stmt* s = nullptr;
+    // Held, not borrowed: looking up the table below prepares statements that may push it out of
+    // the cache.
+    Anweisung s;
     if (ü.einfacheAuswahl) {
         try {
             s = v->anweisung(ü.sqlMitRowid);
@@ -589,22 +633,22 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
         d->abfrage = ü.sql;
     }
     const int versatz = d->mitRowid ? 1 : 0;
-    const int anzahl = sqlite3_column_count(s);
+    const int anzahl = sqlite3_column_count(s.get());
     QString tabellenName;
     for (int i = versatz; i < anzahl; ++i) {
         Spalte sp;
-        sp.name = QString::fromUtf8(sqlite3_column_name(s, i));
-        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s, i));
+        sp.name = QString::fromUtf8(sqlite3_column_name(s.get(), i));
+        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s.get(), i));
         sp.klasse = typklasse(sp.typ);
-        if (const char* t = sqlite3_column_table_name(s, i); t && tabellenName.isEmpty())
+        if (const char* t = sqlite3_column_table_name(s.get(), i); t && tabellenName.isEmpty())
             tabellenName = QString::fromUtf8(t);
         d->spalten.push_back(sp);
     }
     if (d->mitRowid && !tabellenName.isEmpty()) {
         d->tabelle = v->tabelle(tabellenName);
         for (int i = versatz; i < anzahl && d->tabelle; ++i) {
-            const char* t = sqlite3_column_table_name(s, i);
-            const char* ursprung = sqlite3_column_origin_name(s, i);
+            const char* t = sqlite3_column_table_name(s.get(), i);
+            const char* ursprung = sqlite3_column_origin_name(s.get(), i);
             if (t && ursprung && tabellenName.compare(QString::fromUtf8(t), Qt::CaseInsensitive) == 0)
                 d->spalten[i - versatz].tabellenIndex = d->tabelle->index(QString::fromUtf8(ursprung));
         }

@@ -17,6 +17,55 @@ bool replicaGewechselt(const QVariant& gecacht, const QVariant& aktuell) {
     return text(gecacht) != text(aktuell);
 }
 
+// The counter of a table in the replica's range.
+Recordset zählerÖffnen(Datenbank& db, qint64 offsetFaktor, const QString& name) {
+    // The table name goes into the statement as it stands: an apostrophe in it fails the count.
+    return db.OpenRecordset("SELECT * FROM IDIncrement WHERE OffsetFaktor = " +
+                            QString::number(offsetFaktor) + " And TabelleName = '" + name + "'");
+}
+
+qint32 weiterzählen(Recordset& z) {
+    z.Edit();
+    const qint64 neu = ganzzahl(z.Field("LastID")) + 1;
+    if (neu > INT32_MAX)
+        throw fehler::mit(fehler::Überlauf);
+    z.setField("LastID", neu);
+    z.Update();
+    z.setBookmark(z.LastModified());
+    return qint32(neu);
+}
+
+// The table has no counter yet. AddNew holds the write lock; a second look under it finds a
+// counter that another writer added since the cursor was opened, and the count goes on there
+// instead of starting a second counter for the same table.
+qint32 zählerAnlegen(Datenbank& db, Recordset& z, qint64 offsetFaktor, const QString& name) {
+    const qint64 erster = offsetFaktor * 100000000 + 10000;
+    if (erster > INT32_MAX || erster < INT32_MIN)
+        throw fehler::mit(fehler::Überlauf);
+    z.AddNew();
+    if (Recordset jetzt = zählerÖffnen(db, offsetFaktor, name); !jetzt.Eof()) {
+        z.CancelUpdate();
+        z = jetzt;
+        return weiterzählen(z);
+    }
+    z.setField("OffsetFaktor", offsetFaktor);
+    z.setField("TabelleName", name);
+    z.setField("LastID", erster);
+    z.Update();
+    z.setBookmark(z.LastModified());
+    return qint32(erster);
+}
+
+// A count that fails ends the pending change, so that the counter cursor, which lives on, does
+// not keep the write lock while the trap shows its message.
+struct ZählungAbbrechen {
+    Recordset& zähler;
+    ~ZählungAbbrechen() {
+        if (zähler.istOffen())
+            zähler.CancelUpdate();
+    }
+};
+
 } // namespace
 
 QString tabelleAusQuelle(const QString& quelle) {
@@ -37,35 +86,14 @@ void Schlüsselvergabe::replicaLesen(Datenbank& db, const QVariant& replica) {
 }
 
 qint32 Schlüsselvergabe::nächsterSchlüssel(Datenbank& db, const QVariant& replica, const QString& name) {
+    const ZählungAbbrechen abbrechen{m_zähler};
     if (replicaGewechselt(m_replica, replica))
         replicaLesen(db, replica);
     if (m_tabelle != name) {
-        m_zähler = db.OpenRecordset("SELECT * FROM IDIncrement WHERE OffsetFaktor = " +
-                                    QString::number(m_offsetFaktor) + " And TabelleName = '" + name + "'");
+        m_zähler = zählerÖffnen(db, m_offsetFaktor, name);
         m_tabelle = name;
     }
-    Recordset& z = m_zähler;
-    qint32 ergebnis = 0;
-    if (!z.Eof()) {
-        z.Edit();
-        const qint64 neu = ganzzahl(z.Field("LastID")) + 1;
-        if (neu > INT32_MAX)
-            throw fehler::mit(fehler::Überlauf);
-        z.setField("LastID", neu);
-        ergebnis = qint32(neu);
-    } else {
-        const qint64 erster = m_offsetFaktor * 100000000 + 10000;
-        if (erster > INT32_MAX || erster < INT32_MIN)
-            throw fehler::mit(fehler::Überlauf);
-        z.AddNew();
-        z.setField("OffsetFaktor", m_offsetFaktor);
-        z.setField("TabelleName", name);
-        z.setField("LastID", erster);
-        ergebnis = qint32(erster);
-    }
-    z.Update();
-    z.setBookmark(z.LastModified());
-    return ergebnis;
+    return m_zähler.Eof() ? zählerAnlegen(db, m_zähler, m_offsetFaktor, name) : weiterzählen(m_zähler);
 }
 
 } // namespace vemo

@@ -7,7 +7,9 @@
 #include <QDate>
 #include <QDateTime>
 #include <QFileInfo>
+#include <cassert>
 #include <cmath>
+#include <utility>
 
 namespace vemo::detail {
 namespace {
@@ -203,14 +205,18 @@ Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
 }
 
 Verbindung::~Verbindung() {
-    for (sqlite3_stmt* s : std::as_const(m_anweisungen))
-        sqlite3_finalize(s);
-    sqlite3_close(m_db);
+    assert(m_sperren == 0); // every hold belongs to a record set, which keeps its connection
+    m_anweisungen.clear();
+    m_zuletzt.clear();
+    // A statement still held elsewhere keeps the connection until it is finalized.
+    sqlite3_close_v2(m_db);
 }
 
-sqlite3_stmt* Verbindung::anweisung(const QString& sql) {
-    if (auto it = m_anweisungen.constFind(sql); it != m_anweisungen.cend())
-        return *it;
+Anweisung Verbindung::anweisung(const QString& sql) {
+    if (auto it = m_anweisungen.constFind(sql); it != m_anweisungen.cend()) {
+        m_zuletzt.splice(m_zuletzt.begin(), m_zuletzt, *it);
+        return m_zuletzt.front().second;
+    }
     sqlite3_stmt* s = nullptr;
     const QByteArray text = sql.toUtf8();
     const int rc = sqlite3_prepare_v2(m_db, text.constData(), int(text.size()), &s, nullptr);
@@ -220,8 +226,13 @@ sqlite3_stmt* Verbindung::anweisung(const QString& sql) {
     }
     if (!s) // only blanks or a comment
         throw fehler::mit(fehler::SyntaxFehler, sql);
-    m_anweisungen.insert(sql, s);
-    return s;
+    m_zuletzt.emplace_front(sql, Anweisung(s, sqlite3_finalize));
+    m_anweisungen.insert(sql, m_zuletzt.begin());
+    if (m_zuletzt.size() > AnweisungenImCache) {
+        m_anweisungen.remove(m_zuletzt.back().first);
+        m_zuletzt.pop_back();
+    }
+    return m_zuletzt.front().second;
 }
 
 std::shared_ptr<const Verbindung::Tabelle> Verbindung::tabelle(const QString& name) {
@@ -288,24 +299,99 @@ QVector<QVariant> Verbindung::vorgabenJetzt(const Tabelle& t) {
 
 void Verbindung::schemaGeändert() {
     m_tabellen.clear();
-    for (sqlite3_stmt* s : std::as_const(m_anweisungen))
-        sqlite3_finalize(s);
     m_anweisungen.clear();
+    m_zuletzt.clear();
+}
+
+bool Verbindung::anweisungLäuft() const {
+    for (sqlite3_stmt* s = sqlite3_next_stmt(m_db, nullptr); s; s = sqlite3_next_stmt(m_db, s))
+        if (sqlite3_stmt_busy(s))
+            return true;
+    return false;
+}
+
+// Under WAL a connection still reading from an older snapshot is refused the lock at once when
+// another writer has committed since; from a fresh snapshot it waits under the busy timeout. Every
+// statement is reset when its rows are read, so that each new try starts from a fresh snapshot.
+void Verbindung::beginnen() {
+    assert(!anweisungLäuft());
+    constexpr int Versuche = 5;
+    int rc = SQLITE_OK;
+    for (int versuch = 0; versuch < Versuche; ++versuch) {
+        rc = sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+        if (rc == SQLITE_OK || sqlite3_extended_errcode(m_db) != SQLITE_BUSY_SNAPSHOT)
+            break;
+    }
+    if (rc != SQLITE_OK)
+        sqliteFehler(m_db, rc, "BEGIN IMMEDIATE");
+}
+
+// Ends the transaction with a commit, or, when that fails, with a rollback, so that the connection
+// is never left inside a transaction. SQLite may have rolled back already after an error.
+int Verbindung::beenden() noexcept {
+    if (sqlite3_get_autocommit(m_db))
+        return SQLITE_OK;
+    const int rc = sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+    if (rc != SQLITE_OK)
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    return rc;
+}
+
+void Verbindung::sperreNehmen() {
+    if (m_sperren == 0)
+        beginnen();
+    ++m_sperren;
+}
+
+void Verbindung::sperreAbgeben() {
+    assert(m_sperren > 0);
+    if (--m_sperren > 0)
+        return;
+    if (const int rc = beenden(); rc != SQLITE_OK)
+        sqliteFehler(m_db, rc, "COMMIT");
+}
+
+void Verbindung::sperreLösen() noexcept {
+    assert(m_sperren > 0);
+    if (--m_sperren == 0)
+        beenden();
+}
+
+Schreibsperre::Schreibsperre(Verbindung& v) : m_v(&v) {
+    v.sperreNehmen();
+}
+
+Schreibsperre::~Schreibsperre() {
+    if (m_v)
+        m_v->sperreLösen();
+}
+
+void Schreibsperre::abgeben() {
+    Verbindung* v = std::exchange(m_v, nullptr);
+    v->sperreAbgeben();
 }
 
 Schritt::~Schritt() {
-    sqlite3_reset(m_s);
-    sqlite3_clear_bindings(m_s);
+    sqlite3_reset(m_s.get());
+    sqlite3_clear_bindings(m_s.get());
+}
+
+void Schritt::platzhalterBinden(const QVector<QVariant>& werte) {
+    const int platzhalter = sqlite3_bind_parameter_count(m_s.get());
+    if (platzhalter > werte.size())
+        throw fehler::mit(fehler::ZuWenigeParameter, "Erwartet: " + QString::number(platzhalter));
+    for (int i = 0; i < platzhalter; ++i)
+        binden(i + 1, werte[i]);
 }
 
 void Schritt::binden(int index, const QVariant& wert) {
     if (istLeer(wert)) {
-        sqlite3_bind_null(m_s, index);
+        sqlite3_bind_null(m_s.get(), index);
         return;
     }
     switch (wert.typeId()) {
     case QMetaType::Bool:
-        sqlite3_bind_int(m_s, index, wert.toBool() ? -1 : 0);
+        sqlite3_bind_int(m_s.get(), index, wert.toBool() ? -1 : 0);
         return;
     case QMetaType::Int:
     case QMetaType::UInt:
@@ -313,11 +399,11 @@ void Schritt::binden(int index, const QVariant& wert) {
     case QMetaType::UShort:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
-        sqlite3_bind_int64(m_s, index, wert.toLongLong());
+        sqlite3_bind_int64(m_s.get(), index, wert.toLongLong());
         return;
     case QMetaType::Double:
     case QMetaType::Float:
-        sqlite3_bind_double(m_s, index, wert.toDouble());
+        sqlite3_bind_double(m_s.get(), index, wert.toDouble());
         return;
     default:
         break;
@@ -330,29 +416,30 @@ void Schritt::binden(int index, const QVariant& wert) {
     else
         t = wert.toString();
     const QByteArray b = t.toUtf8();
-    sqlite3_bind_text(m_s, index, b.constData(), int(b.size()), SQLITE_TRANSIENT);
+    sqlite3_bind_text(m_s.get(), index, b.constData(), int(b.size()), SQLITE_TRANSIENT);
 }
 
 bool Schritt::weiter() {
-    const int rc = sqlite3_step(m_s);
+    const int rc = sqlite3_step(m_s.get());
     if (rc == SQLITE_ROW)
         return true;
     if (rc == SQLITE_DONE)
         return false;
-    sqliteFehler(sqlite3_db_handle(m_s), rc, utf8(sqlite3_sql(m_s)));
+    sqliteFehler(sqlite3_db_handle(m_s.get()), rc, utf8(sqlite3_sql(m_s.get())));
 }
 
 QVariant Schritt::wert(int spalte, Typklasse klasse) const {
-    switch (sqlite3_column_type(m_s, spalte)) {
+    switch (sqlite3_column_type(m_s.get(), spalte)) {
     case SQLITE_NULL:
         return nullWert();
     case SQLITE_INTEGER:
-        return QVariant(qlonglong(sqlite3_column_int64(m_s, spalte)));
+        return QVariant(qlonglong(sqlite3_column_int64(m_s.get(), spalte)));
     case SQLITE_FLOAT:
-        return sqlite3_column_double(m_s, spalte);
+        return sqlite3_column_double(m_s.get(), spalte);
     default: {
-        const QString t = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(m_s, spalte)),
-                                            sqlite3_column_bytes(m_s, spalte));
+        const QString t =
+            QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(m_s.get(), spalte)),
+                              sqlite3_column_bytes(m_s.get(), spalte));
         if (klasse == Typklasse::Datum) {
             if (t.size() > 10) {
                 const QDateTime dt = QDateTime::fromString(t, "yyyy-MM-dd HH:mm:ss");

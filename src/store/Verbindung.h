@@ -5,8 +5,10 @@
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
+#include <list>
 #include <memory>
 #include <sqlite3.h>
+#include <utility>
 
 namespace vemo::detail {
 
@@ -19,11 +21,19 @@ Typklasse typklasse(const QString& deklariert);
 // columns. A value the column cannot take raises 13.
 QVariant spaltenwert(const QVariant& wert, Typklasse klasse);
 
+// A prepared statement, finalized when the last holder lets it go: the cache may drop it while a
+// Schritt still runs it.
+using Anweisung = std::shared_ptr<sqlite3_stmt>;
+
 // One open SQLite connection with its prepared statements and what it knows of its tables.
 // Every statement is reset as soon as its rows are read, so that no statement stays open and each
-// write commits by itself.
+// write commits by itself, or with the hold on the write lock it was made under.
 class Verbindung {
 public:
+    // Statements kept prepared. The logic splices keys into its statements, so that a long run
+    // prepares a new text for nearly every row; the least recently used one goes.
+    static constexpr int AnweisungenImCache = 128;
+
     Verbindung(const QString& pfad, bool anlegen);
     ~Verbindung();
     Verbindung(const Verbindung&) = delete;
@@ -45,7 +55,8 @@ public:
     const QString& pfad() const { return m_pfad; }
 
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
-    sqlite3_stmt* anweisung(const QString& sql);
+    Anweisung anweisung(const QString& sql);
+    int anweisungenImCache() const { return int(m_anweisungen.size()); }
     // What the store knows of a table; null when there is no such table. Record sets keep their
     // table's description alive, also across a change of the schema.
     std::shared_ptr<const Tabelle> tabelle(const QString& name);
@@ -53,28 +64,62 @@ public:
     QVector<QVariant> vorgabenJetzt(const Tabelle& t);
     void schemaGeändert();
 
+    // The database's write lock, as the host's pessimistic locking takes it for a row being
+    // changed or added. Holds on one connection nest and share one short transaction, which ends
+    // with the last release, always by a commit: whatever a holder wrote in between stands, as
+    // every Update must. sperreAbgeben raises when that commit fails; sperreLösen does not.
+    void sperreNehmen();
+    void sperreAbgeben();
+    void sperreLösen() noexcept;
+    bool sperreGehalten() const { return m_sperren > 0; }
+
 private:
+    using Cache = std::list<std::pair<QString, Anweisung>>; // the most recently used first
+
+    bool anweisungLäuft() const;
+    void beginnen();
+    int beenden() noexcept;
+
     sqlite3* m_db = nullptr;
     QString m_pfad;
-    QHash<QString, sqlite3_stmt*> m_anweisungen;
+    Cache m_zuletzt;
+    QHash<QString, Cache::iterator> m_anweisungen;
     QHash<QString, std::shared_ptr<const Tabelle>> m_tabellen; // by lower-case name
+    int m_sperren = 0;
+};
+
+// A hold on the write lock for as long as the object lives, or until it is given back.
+class Schreibsperre {
+public:
+    explicit Schreibsperre(Verbindung& v);
+    ~Schreibsperre();
+    Schreibsperre(Schreibsperre&& andere) noexcept : m_v(std::exchange(andere.m_v, nullptr)) {}
+    Schreibsperre(const Schreibsperre&) = delete;
+    Schreibsperre& operator=(const Schreibsperre&) = delete;
+
+    void abgeben(); // raises when the commit that ends the transaction fails
+
+private:
+    Verbindung* m_v;
 };
 
 // Runs a prepared statement and resets it when it goes out of scope.
 class Schritt {
 public:
-    explicit Schritt(sqlite3_stmt* s) : m_s(s) {}
+    explicit Schritt(Anweisung s) : m_s(std::move(s)) {}
     ~Schritt();
     Schritt(const Schritt&) = delete;
     Schritt& operator=(const Schritt&) = delete;
 
     void binden(int index, const QVariant& wert);
+    // Binds the values to the placeholders in order; a placeholder without a value raises 3061.
+    void platzhalterBinden(const QVector<QVariant>& werte);
     bool weiter(); // true while a row stands; raises the store's error on failure
     QVariant wert(int spalte, Typklasse klasse = Typklasse::Frei) const;
-    sqlite3_stmt* anweisung() const { return m_s; }
+    sqlite3_stmt* anweisung() const { return m_s.get(); }
 
 private:
-    sqlite3_stmt* m_s;
+    Anweisung m_s;
 };
 
 // The error of a failed SQLite call, with the number the system's messages use.

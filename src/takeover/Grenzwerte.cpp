@@ -33,6 +33,7 @@ void standardÜbernehmen(Recordset& rsGrenzwert) {
 }
 
 void isolationNachPrüfspannung(Recordset& rsGrenzwert, const Recordset& rsMessung) {
+    // The test voltage goes into the statement as it stands: an apostrophe in it fails the look-up.
     const Recordset iso = db().OpenRecordset("SELECT * FROM 0100_GrenzwertISO WHERE Prüfspannung = '" +
                                              rsMessung.Text("VISO") + "'");
     if (!iso.Eof())

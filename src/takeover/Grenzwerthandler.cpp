@@ -37,6 +37,7 @@ void erdGrenzwert(Wertlauf& w) {
 // row was built before it arrived. An unknown voltage changes nothing.
 void isolationNachPrüfspannung(Wertlauf& w) {
     w.grenzwertHolen();
+    // The value text goes into the statement as it stands: an apostrophe in it fails the look-up.
     const Recordset iso =
         db().OpenRecordset("SELECT * FROM 0100_GrenzwertISO WHERE Prüfspannung = '" + w.wertText() + "'");
     if (!iso.Eof())

@@ -71,6 +71,7 @@ void Lauf::anlage(const Recordset& z) {
         m_schlüssel.anlageID = m_anlage.Field("AnlageID");
         return;
     }
+    // The plant number goes into the statement as it stands: an apostrophe in it fails the look-up.
     m_anlage = db().OpenRecordset("SELECT * FROM 0100_Anlage where KundeID = " + kunde + " AND Code ='" +
                                   z.Text("AnlageNr") + "'");
     if (!m_anlage.Eof()) {
@@ -161,7 +162,7 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
         !gleich(m_verteiler.Field("VerteilerID"), z.Field("VerteilerID")))
         m_verteiler = db().OpenRecordset("SELECT * FROM 0100_Verteiler WHERE PrüfungID = " + prüfung +
                                          " AND VerteilerID = " + z.Text("VerteilerID"));
-    if (m_verteiler.Eof())
+    if (m_verteiler.Eof()) // the board number as it stands: an apostrophe in it fails the look-up
         m_verteiler = db().OpenRecordset("SELECT * FROM 0100_Verteiler WHERE PrüfungID = " + prüfung +
                                          " AND Code ='" + verteilerNr + "'");
     if (!m_verteiler.Eof()) {
@@ -187,7 +188,7 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
         !gleich(m_stromkreis.Field("StromkreisID"), z.Field("StromkreisID")))
         m_stromkreis = db().OpenRecordset("SELECT * FROM 0100_STROMKREIS WHERE VerteilerID = " + verteiler +
                                           " AND StromkreisID = " + z.Text("StromkreisID"));
-    if (m_stromkreis.Eof())
+    if (m_stromkreis.Eof()) // the circuit number as it stands: an apostrophe in it fails the look-up
         m_stromkreis = db().OpenRecordset("SELECT * FROM 0100_STROMKREIS WHERE VerteilerID = " + verteiler +
                                           " AND Code ='" + stromkreisNr + "'");
     if (!m_stromkreis.Eof()) {

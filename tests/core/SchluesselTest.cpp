@@ -41,13 +41,9 @@ TEST_F(SchluesselTest, CodesFillTheFirstGap) {
     EXPECT_EQ(NeuerCode("Anlage", 1), "003");
     EXPECT_EQ(NeuerCode("Anlage", 2), "001");
     EXPECT_EQ(NeuerCode("Anlage", 3), "001"); // "10" sorts before "2" and ends the climb
-    QString viele;
-    for (int i = 1; i <= 998; ++i)
-        viele +=
-            QString("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (%1, 9, '%2');")
-                .arg(i)
-                .arg(i, 3, 10, QChar('0'));
-    sql(viele);
+    sql("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 998) "
+        "INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) SELECT i, 9, substr('00' || i, "
+        "-3) FROM n;");
     EXPECT_EQ(NeuerCode("Stromkreis", 9), "");
     EXPECT_THROW(NeuerCode("Kunde", 1), Fehler);
 }

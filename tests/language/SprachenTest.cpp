@@ -52,9 +52,8 @@ TEST_F(SprachenTest, ZuLangerTextWirdGekürztUndJedesMalNeuAufgenommen) {
     EXPECT_EQ(m_sprachen.xText(lang), lang);
     const QString gekürzt = lang.left(255);
     EXPECT_EQ(zeilenMitSchlüssel(gekürzt), 1);
-    EXPECT_EQ(
-        spracheWert("SELECT Len([Deutsch (&Deutschland)]) FROM Sprache WHERE TextID = '" + gekürzt + "'"),
-        "300");
+    EXPECT_EQ(spracheWert("SELECT Len([Deutsch (&Deutschland)]) FROM Sprache WHERE TextID = ?", {gekürzt}),
+              "300");
 
     // The full text never finds the cut key: each asking adds one more row.
     EXPECT_EQ(m_sprachen.xText(lang), lang);

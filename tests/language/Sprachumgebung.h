@@ -23,8 +23,8 @@ protected:
     Datenbank sprachDb() const { return Datenbank::OpenDatabase(pfad(sprachdatenbank::DateiName)); }
     void spracheSql(const QString& natives) const { sprachDb().skriptAusführen(natives); }
     // The first column of the first row of a query on the language database, as text.
-    QString spracheWert(const QString& abfrage) const {
-        Recordset rs = sprachDb().OpenRecordset(abfrage);
+    QString spracheWert(const QString& abfrage, const QVector<QVariant>& werte = {}) const {
+        Recordset rs = sprachDb().OpenRecordset(abfrage, werte);
         return rs.Eof() ? QString() : rs.Text(rs.FieldName(0));
     }
     long zeilenMitSchlüssel(const QString& textId) const {

@@ -59,8 +59,9 @@ protected:
         Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
         for (; !b.Eof(); b.MoveNext()) {
             QStringList werte;
-            Recordset w = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
-                                             b.Text("MessungID") + " ORDER BY rowid");
+            Recordset w =
+                db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = ? ORDER BY rowid",
+                                   {b.Field("MessungID")});
             for (; !w.Eof(); w.MoveNext())
                 werte << (w.Text("Funktion") + "=" + w.Text("wert") + " " + w.Text("Einheit")).trimmed();
             ergebnis << b.Text("VerteilerNr") + " " + b.Text("StromkreisNr") + ": " + werte.join(" | ");

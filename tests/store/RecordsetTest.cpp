@@ -10,13 +10,9 @@ class RecordsetTest : public test::Testumgebung {
 protected:
     // Rows 1..n of 0100_EinleseDaten, with StromkreisNr "S<i>"; row 3 has a Null Datum.
     void zeilen(int n) {
-        QString s;
         for (int i = 1; i <= n; ++i)
-            s += QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, StromkreisNr, Datum) VALUES (%1, "
-                         "'S%1', %2);")
-                     .arg(i)
-                     .arg(i == 3 ? "NULL" : "'x'");
-        sql(s);
+            ausführen("INSERT INTO 0100_EinleseDaten (MessungID, StromkreisNr, Datum) VALUES (?, ?, ?)",
+                      {i, "S" + QString::number(i), i == 3 ? nullWert() : QVariant("x")});
     }
     static int fehlerNummer(const std::function<void()>& f) {
         try {
@@ -223,6 +219,42 @@ TEST_F(RecordsetTest, DatesAndNumbersKeepTheirTypes) {
                   rs.Update();
               }),
               13);
+}
+
+// Values given for the placeholders go in as values: an apostrophe or a piece of SQL in them is
+// only text, and the set they select is written and requeried like any other.
+TEST_F(RecordsetTest, PlaceholdersTakeValuesNeverStatementText) {
+    db().Execute("INSERT INTO Kunde (KundeID, Name, Nummernkreis) VALUES (?, ?, ?)", {1, "O'Neill", "12"});
+    db().Execute("INSERT INTO Kunde (KundeID, Name, Nummernkreis) VALUES (?, ?, ?)",
+                 {2, "x' OR '1'='1", nullWert()});
+    Recordset rs = db().OpenRecordset("SELECT * FROM Kunde WHERE Name = ?", {"o'neill"});
+    EXPECT_EQ(rs.Field("KundeID").toInt(), 1);
+    rs.MoveLast();
+    EXPECT_EQ(rs.RecordCount(), 1);
+    const Recordset fremd = db().OpenRecordset("SELECT * FROM Kunde WHERE Name = ?", {"x' OR '1'='1"});
+    EXPECT_EQ(fremd.Field("KundeID").toInt(), 2);
+    EXPECT_TRUE(istNull(fremd.Field("Nummernkreis")));
+
+    rs.Edit();
+    rs.setField("Name", "O'Brien");
+    rs.Update();
+    EXPECT_EQ(wert("SELECT Name FROM Kunde WHERE KundeID = 1"), "O'Brien");
+    rs.Requery();
+    EXPECT_TRUE(rs.Eof());
+
+    db().Execute("INSERT INTO [0100_Anlage] (AnlageID, KundeID, Code, NächstePrüfung) VALUES (?, ?, ?, ?)",
+                 {5, 1, "001", QDate(2024, 3, 1)});
+    EXPECT_EQ(db().OpenRecordset("SELECT NächstePrüfung FROM 0100_Anlage WHERE KundeID = ? AND Code = ?",
+                                 {1, "001"})
+                  .Field(0)
+                  .toDate(),
+              QDate(2024, 3, 1));
+
+    EXPECT_EQ(fehlerNummer([&] { db().Execute("INSERT INTO Kunde (KundeID, Name) VALUES (?, ?)", {3}); }),
+              3061);
+    EXPECT_EQ(fehlerNummer([&] { db().OpenRecordset("SELECT * FROM Kunde WHERE KundeID = ?", {}); }), 3061);
+    EXPECT_EQ(anzahl("Kunde"), 2);
+    EXPECT_EQ(fehlerNummer([] { Datenbank().OpenRecordset("SELECT * FROM Kunde", {}); }), 91);
 }
 
 } // namespace

@@ -38,8 +38,17 @@ void Testumgebung::sql(const QString& natives) const {
     modul().db.skriptAusführen(natives);
 }
 
+void Testumgebung::ausführen(const QString& anweisung, const QVector<QVariant>& werte) const {
+    modul().db.Execute(anweisung, werte);
+}
+
 QString Testumgebung::wert(const QString& abfrage) const {
     Recordset rs = modul().db.OpenRecordset(abfrage);
+    return rs.Eof() ? QString() : text(rs.Field(0));
+}
+
+QString Testumgebung::wert(const QString& abfrage, const QVector<QVariant>& werte) const {
+    Recordset rs = modul().db.OpenRecordset(abfrage, werte);
     return rs.Eof() ? QString() : text(rs.Field(0));
 }
 

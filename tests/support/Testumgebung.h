@@ -21,8 +21,11 @@ protected:
     // Creates the database; with demo, the demo customers and plants too.
     void neueDatenbank(bool demo = false);
     void sql(const QString& natives) const;
+    // A statement of the dialect with "?" placeholders, bound in order to the values.
+    void ausführen(const QString& anweisung, const QVector<QVariant>& werte) const;
     // The first column of the first row of a query, as text.
     QString wert(const QString& abfrage) const;
+    QString wert(const QString& abfrage, const QVector<QVariant>& werte) const;
     long anzahl(const QString& tabelle) const;
     QString pfad(const QString& name) const { return m_dir.filePath(name); }
 

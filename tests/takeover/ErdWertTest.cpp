@@ -13,9 +13,7 @@ protected:
         sql(R"(DELETE FROM "0100_Messung")");
         int id = 10;
         for (const QString& w : werte)
-            sql(QString(R"(INSERT INTO "0100_Messung" (MessID, StromkreisID, ErdRE) VALUES (%1, 400, '%2'))")
-                    .arg(id++)
-                    .arg(w));
+            ausführen("INSERT INTO 0100_Messung (MessID, StromkreisID, ErdRE) VALUES (?, 400, ?)", {id++, w});
     }
 };
 

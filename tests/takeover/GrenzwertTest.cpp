@@ -14,12 +14,10 @@ protected:
     // A measurement row of the circuit with the settings that decide its limits; rsGrenzwert is
     // then made for it.
     Recordset holen(int messID, const QString& viso, const QString& faktor) {
-        sql(QString(
-                R"(INSERT INTO "0100_Messung" (MessID, StromkreisID, VISO, FIFaktor) VALUES (%1, 400, '%2', '%3'))")
-                .arg(messID)
-                .arg(viso, faktor));
+        ausführen("INSERT INTO 0100_Messung (MessID, StromkreisID, VISO, FIFaktor) VALUES (?, 400, ?, ?)",
+                  {messID, viso, faktor});
         const Recordset messung =
-            modul().db.OpenRecordset("SELECT * FROM 0100_Messung WHERE MessID = " + QString::number(messID));
+            modul().db.OpenRecordset("SELECT * FROM 0100_Messung WHERE MessID = ?", {messID});
         Recordset grenzwert;
         GrenzwertHolen(grenzwert, messung);
         return grenzwert;

@@ -21,7 +21,7 @@ QStringList spaltenVon(const QString& tabelle) {
 // its values are converted to; every column the table names exists where the name sends it.
 TEST_F(HostdatenTest, FunctionNamesLeadToExistingColumns) {
     for (const QString& name : namenMitHandler())
-        EXPECT_EQ(wert("SELECT Count(*) FROM [0100_TeilFunktion] WHERE TeilFunktion = '" + name + "'"), "1")
+        EXPECT_EQ(wert("SELECT Count(*) FROM [0100_TeilFunktion] WHERE TeilFunktion = ?", {name}), "1")
             << name.toStdString();
 
     const QStringList messung = spaltenVon("0100_Messung");

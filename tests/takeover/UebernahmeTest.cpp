@@ -29,16 +29,12 @@ protected:
     // A read-in row with a loop test as its values.
     void zeile(int messungID, int kunde, int anlageID, const QString& anlageNr, const QString& verteiler,
                const QString& stromkreis, int prüfungID = 0) {
-        sql(QString("INSERT INTO \"0100_EinleseDaten\" (MessungID, GeräteID, KundeID, AnlageID, AnlageNr, "
-                    "PrüfungID, VerteilerNr, StromkreisNr) VALUES (%1, 1, %2, %3, '%4', %5, '%6', '%7');"
-                    "INSERT INTO \"0100_EinleseMessDaten\" VALUES (%1, 'Zs', '0,4%1', 'Ohm'), (%1, 'Zs Ik', "
-                    "'575', 'A');")
-                .arg(messungID)
-                .arg(kunde)
-                .arg(anlageID)
-                .arg(anlageNr)
-                .arg(prüfungID)
-                .arg(verteiler, stromkreis));
+        ausführen(
+            "INSERT INTO 0100_EinleseDaten (MessungID, GeräteID, KundeID, AnlageID, AnlageNr, PrüfungID, "
+            "VerteilerNr, StromkreisNr) VALUES (?, 1, ?, ?, ?, ?, ?, ?)",
+            {messungID, kunde, anlageID, anlageNr, prüfungID, verteiler, stromkreis});
+        ausführen("INSERT INTO 0100_EinleseMessDaten VALUES (?, 'Zs', ?, 'Ohm'), (?, 'Zs Ik', '575', 'A')",
+                  {messungID, "0,4" + QString::number(messungID), messungID});
     }
 
     // The button of the form; what to change between the form's refresh and the click.
@@ -77,35 +73,35 @@ TEST_F(UebernahmeTest, ASavedDumpTravelsTheWholeRoad) {
     EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 0);
     const QString prüfung = wert("SELECT PrüfungID FROM 0100_Prüfung WHERE AnlagenID = 2");
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = 2"), "1");
-    EXPECT_EQ(wert("SELECT PrüfgerätName1 FROM 0100_Prüfung WHERE PrüfungID = " + prüfung),
+    EXPECT_EQ(wert("SELECT PrüfgerätName1 FROM 0100_Prüfung WHERE PrüfungID = ?", {prüfung}),
               "0100-Corvex Ser. Nr.: 98120-00471");
-    EXPECT_EQ(wert("SELECT Erdungswiderstand FROM 0100_Prüfung WHERE PrüfungID = " + prüfung), "12,5");
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100U_CertNic WHERE pid = " + prüfung), "1");
-    EXPECT_EQ(wert("SELECT Group_Concat(Code, ' ') FROM 0100_Verteiler WHERE PrüfungID = " + prüfung),
+    EXPECT_EQ(wert("SELECT Erdungswiderstand FROM 0100_Prüfung WHERE PrüfungID = ?", {prüfung}), "12,5");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100U_CertNic WHERE pid = ?", {prüfung}), "1");
+    EXPECT_EQ(wert("SELECT Group_Concat(Code, ' ') FROM 0100_Verteiler WHERE PrüfungID = ?", {prüfung}),
               "0001 0002");
-    EXPECT_EQ(
-        wert("SELECT Count(*) FROM 0100_Stromkreis s JOIN 0100_Verteiler v ON s.VerteilerID = v.VerteilerID "
-             "WHERE v.PrüfungID = " +
-             prüfung),
-        "6");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Stromkreis s JOIN 0100_Verteiler v ON s.VerteilerID = "
+                   "v.VerteilerID WHERE v.PrüfungID = ?",
+                   {prüfung}),
+              "6");
+    // The circuit of the inspection by board and circuit code.
     const QString kreis =
         "(SELECT StromkreisID FROM 0100_Stromkreis s JOIN 0100_Verteiler v ON s.VerteilerID = "
-        "v.VerteilerID WHERE v.PrüfungID = " +
-        prüfung + " AND v.Code = '%1' AND s.Code = '%2')";
-    EXPECT_EQ(wert("SELECT RISO || '/' || VISO FROM 0100_Messung WHERE StromkreisID = " +
-                   kreis.arg("0001", "0001")),
+        "v.VerteilerID WHERE v.PrüfungID = ? AND v.Code = ? AND s.Code = ?)";
+    EXPECT_EQ(wert("SELECT RISO || '/' || VISO FROM 0100_Messung WHERE StromkreisID = " + kreis,
+                   {prüfung, "0001", "0001"}),
               "245/500");
     EXPECT_EQ(
         wert("SELECT LOOPRS || '/' || LoopIKRS FROM 0100_Messung WHERE LOOPRS <> '' AND StromkreisID = " +
-             kreis.arg("0001", "0002")),
+                 kreis,
+             {prüfung, "0001", "0002"}),
         "0,35/657");
-    const QString rcd = wert("SELECT MessID FROM 0100_Messung WHERE FIT = '18' AND StromkreisID = " +
-                             kreis.arg("0001", "0003"));
+    const QString rcd = wert("SELECT MessID FROM 0100_Messung WHERE FIT = '18' AND StromkreisID = " + kreis,
+                             {prüfung, "0001", "0003"});
     EXPECT_EQ(
-        wert("SELECT FGRAD || FIIDN || FIFaktor || '/' || FIUB FROM 0100_Messung WHERE MessID = " + rcd),
+        wert("SELECT FGRAD || FIIDN || FIFaktor || '/' || FIUB FROM 0100_Messung WHERE MessID = ?", {rcd}),
         "AC 0°30x1/3,5");
     EXPECT_EQ(
-        wert("SELECT FIUB || ' ' || FIRE || ' ' || [FIT MAX] FROM 0100_Grenzwert WHERE MessID = " + rcd),
+        wert("SELECT FIUB || ' ' || FIRE || ' ' || [FIT MAX] FROM 0100_Grenzwert WHERE MessID = ?", {rcd}),
         "<50 <1666,7 <300");
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
 }
@@ -122,7 +118,7 @@ TEST_F(UebernahmeTest, PlantsAndInspectionsAreFoundOrMadeRowByRow) {
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Anlage WHERE Code = '007'"), "1");
     EXPECT_EQ(wert("SELECT Name || Nr FROM 0100_Anlage WHERE Code = '007'"), ""); // only a code
     const QString a = wert("SELECT AnlageID FROM 0100_Anlage WHERE Code = '007'");
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = " + a), "2");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = ?", {a}), "2");
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = 3"), "1");
     EXPECT_EQ(wert("SELECT Group_Concat(MessungID) FROM 0100_EinleseDaten"), "5,6");
     EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 1); // rows remain: the instrument stays

@@ -5,11 +5,6 @@
 #include "takeover/MesswertUebernehmen.h"
 
 namespace vemo::test {
-namespace {
-QString zitiert(QString s) {
-    return "'" + s.replace("'", "''") + "'";
-}
-} // namespace
 
 void Uebernahmeumgebung::SetUp() {
     Testumgebung::SetUp();
@@ -21,13 +16,10 @@ void Uebernahmeumgebung::SetUp() {
 }
 
 void Uebernahmeumgebung::einlesen(const QList<Quellzeile>& zeilen, int messungID) const {
-    QString s;
     for (const Quellzeile& z : zeilen)
-        s += QString("INSERT INTO \"0100_EinleseMessDaten\" (MessungID, Funktion, wert, Einheit) "
-                     "VALUES (%1, %2, %3, %4);")
-                 .arg(messungID)
-                 .arg(zitiert(z.funktion), zitiert(z.wert), zitiert(z.einheit));
-    sql(s);
+        ausführen(
+            "INSERT INTO 0100_EinleseMessDaten (MessungID, Funktion, wert, Einheit) VALUES (?, ?, ?, ?)",
+            {messungID, z.funktion, z.wert, z.einheit});
 }
 
 void Uebernahmeumgebung::übernehmen(int messungID) const {
@@ -47,7 +39,7 @@ QStringList Uebernahmeumgebung::messIDs() const {
 }
 
 QString Uebernahmeumgebung::grenzwert(const QString& spalte, const QString& messID) const {
-    return wert("SELECT [" + spalte + "] FROM [0100_Grenzwert] WHERE MessID = " + messID);
+    return wert("SELECT [" + spalte + "] FROM [0100_Grenzwert] WHERE MessID = ?", {messID});
 }
 
 } // namespace vemo::test
