@@ -135,6 +135,8 @@ Spaltenwert Zeilen::nennstrom() const {
 } // namespace
 
 std::vector<Messzeile> messzeilen(const Variante& variante, const Datensatz& satz) {
+    for (const int feld : variante.modusfelder)
+        static_cast<void>(satz.zahl(feld)); // read for its failure only
     const auto art = variante.funktionen.find(variante.funktionscode(satz));
     if (art == variante.funktionen.end())
         return {};

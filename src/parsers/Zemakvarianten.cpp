@@ -87,6 +87,7 @@ Variante zemakTabelle() {
     v.weiterNachFehler = true;
     v.uhrfeld = 9;
     v.funktionscode = GetCode3;
+    v.modusfelder = {8};
     v.funktionen = {{0, Messart::Spannung}, {1, Messart::Isolation},      {2, Messart::Durchgang},
                     {3, Messart::Schleife}, {4, Messart::RcdAuslösezeit}, {5, Messart::RcdAuslösestrom},
                     {6, Messart::Erde},     {7, Messart::Drehfeld}};
@@ -102,6 +103,7 @@ Variante zemak3710BTabelle() {
     v.uhrfeld = 10;
     v.prüfstromfeld = 9;
     v.funktionscode = GetCode4;
+    v.modusfelder = {8};
     v.funktionen = {{0, Messart::Spannung},
                     {1, Messart::Isolation},
                     {2, Messart::Durchgang},
@@ -130,6 +132,7 @@ Variante zemak3720Tabelle() {
     v.a = {4, 5};
     v.b = {6, 7};
     v.funktionscode = ersteZweiZiffern;
+    v.modusfelder = {8, 9};
     v.funktionen = {{0x00, Messart::Spannung},
                     {0x04, Messart::Isolation},
                     {0x08, Messart::Durchgang},
@@ -179,6 +182,7 @@ Variante zemak3740Tabelle() {
     v.b = {10, 15};
     v.c = {11, 16};
     v.funktionscode = feld6;
+    v.modusfelder = {5, 7};
     v.funktionen = {{0, Messart::Spannung},
                     {1, Messart::Isolation},
                     {2, Messart::Durchgang},

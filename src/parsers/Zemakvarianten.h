@@ -90,6 +90,9 @@ struct Variante {
 
     quint64 (*funktionscode)(const Datensatz&) = nullptr;
     std::map<quint64, Messart> funktionen;
+    // The fields every record reads as numbers before its function is looked up: a record whose
+    // mode word is no number fails, whatever its function.
+    std::vector<int> modusfelder;
 
     std::optional<Wahl<QString>> leiter; // "m_Bemerkung" of a voltage; none: the model writes no such row
     Wahl<QString> isolation;             // Funktion of the insulation resistance

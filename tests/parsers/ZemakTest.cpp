@@ -358,6 +358,11 @@ TEST_F(Zemak, AFailureEndsTheReadButThe3710GoesOnStatementByStatement) {
     EXPECT_EQ(m_ui.texte(), QStringList{"13 Typen unverträglich (\"00G6\")"});
     EXPECT_EQ(blöcke().mid(3), QStringList{"1202 0101: "});
 
+    // The test current is read by every record of the 3720, though only an RCD test uses it.
+    lesen3720({"04B2,0065,0,0012,00,0010,00,1C00,ZZZZ,0"});
+    EXPECT_EQ(m_ui.texte(), QStringList{"13 Typen unverträglich (\"ZZZZ\")"});
+    EXPECT_EQ(blöcke().last(), "1202 0101: ");
+
     // A record too short: the 3710 takes its fields round again, the 3720 runs out of them.
     textLesen(selektor::Zemak, speicher("ZEMAK 3710,1.03,3710042", {"05,06,0,1800"}));
     EXPECT_EQ(m_ui.texte(), QStringList());
