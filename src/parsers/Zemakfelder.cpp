@@ -14,16 +14,12 @@ quint64 zehnHoch(int n) {
     return z;
 }
 
-// n / 10^stellen with a fixed number of decimals, as the format "0", "0.0" ... writes it: digits
-// that the format has no room for are rounded off, half up.
+// n / 10^stellen with a fixed number of decimals (no more than stellen), as the format "0", "0.0" ...
+// writes it: the digits it has no room for are rounded off, half up.
 QString festkomma(quint64 n, int stellen, int nachkomma) {
-    if (nachkomma < stellen) {
-        const quint64 teiler = zehnHoch(stellen - nachkomma);
-        n = n / teiler + (n % teiler * 2 >= teiler ? 1 : 0);
-        stellen = nachkomma;
-    }
-    const QString ziffern =
-        (QString::number(n) + QString(nachkomma - stellen, '0')).rightJustified(nachkomma + 1, '0');
+    const quint64 teiler = zehnHoch(stellen - nachkomma);
+    const quint64 gerundet = n / teiler + (n % teiler * 2 >= teiler ? 1 : 0);
+    const QString ziffern = QString::number(gerundet).rightJustified(nachkomma + 1, '0');
     if (nachkomma == 0)
         return ziffern;
     return ziffern.left(ziffern.size() - nachkomma) + zahlformat::locale().decimalPoint() +
