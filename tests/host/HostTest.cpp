@@ -67,6 +67,20 @@ TEST_F(HostTest, RecognisesTheFamilyFromTheFirstLines) {
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("53 "));
 }
 
+// A saved 37xx memory begins with the instrument's identification line.
+TEST_F(HostTest, SavedMemoriesAreToldByTheirIdentificationLine) {
+    const std::pair<QString, QString> proben[] = {
+        {"zemak-3710.ser", selektor::Zemak},      {"zemak-3710b.ser", selektor::Zemak3710B},
+        {"zemak-3720.ser", selektor::Zemak3720},  {"zemak-3740.ser", selektor::Zemak3740},
+        {"quentavoir.ser", selektor::Quentavoir},
+    };
+    for (const auto& [probe, s] : proben) {
+        GeräteErkennen(test::quelle("samples/" + probe));
+        EXPECT_EQ(modul().Selektor(), s) << probe.toStdString();
+    }
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+}
+
 TEST_F(HostTest, FileNumbersAdvancePastCopiesThatExist) {
     EXPECT_EQ(NächsteDateiNummer(), "00000001"); // first use, no setting
     m_settings.SaveSetting("Application", "LastFile", "LastFile = 00000041");

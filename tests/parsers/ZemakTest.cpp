@@ -1,0 +1,408 @@
+#include "core/Arbeitsdateien.h"
+#include "core/Geraetetypen.h"
+#include "parsers/EinlesenVonDatei.h"
+#include "platform/Codepage.h"
+#include "platform/Zahlformat.h"
+#include "store/Recordset.h"
+#include "store/Variant.h"
+#include "support/Testumgebung.h"
+
+#include <QFile>
+
+using namespace vemo;
+
+namespace {
+
+const QString Standardtitel = "vemo0100Modul15";
+
+// The 37xx working files: the samples, and files written line by line around a few records.
+class Zemak : public test::Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
+    }
+    void TearDown() override {
+        zahlformat::ausUmgebung();
+        Testumgebung::TearDown();
+    }
+
+    // A file read is the default: no instrument joins the register.
+    void probeLesen(const QString& s, const QString& probe, const QString& dateiname = "/tmp/x.ser") {
+        QFile::remove(arbeitsdatei(datei::Ruvo));
+        ASSERT_TRUE(QFile::copy(test::quelle("samples/" + probe), arbeitsdatei(datei::Ruvo)));
+        starten(s, dateiname);
+    }
+
+    void textLesen(const QString& s, const QStringList& zeilen) {
+        QFile f(arbeitsdatei(datei::Ruvo));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(nachAnsi(zeilen.join("\r\n") + "\r\n"));
+        f.close();
+        starten(s, "/tmp/x.ser");
+    }
+
+    // The head a transfer saves, the records, and the closing line.
+    static QStringList speicher(const QString& kennung, const QStringList& sätze) {
+        return QStringList{kennung, "XG,778582800", "OK", "QD 2,0001,"} + sätze + QStringList{"00"};
+    }
+    void lesen3720(const QStringList& sätze) { textLesen(selektor::Zemak3720, speicher(Z3720, sätze)); }
+
+    void starten(const QString& s, const QString& dateiname) {
+        modul().Selektor() = s;
+        modul().dateinameGewählt = dateiname;
+        modul().aktuellesPrüfgerät = 0;
+        modul().Abbruchmerker = 0;
+        m_ui.meldungen.clear();
+        EinlesenVonDatei();
+        EXPECT_EQ(modul().Abbruchmerker, 0); // the caller goes on, whatever the parser met
+    }
+
+    static QString spalte(const Recordset& r, const QString& name) {
+        return istNull(r.Field(name)) ? "∅" : r.Text(name);
+    }
+
+    // "board circuit: Funktion=wert Einheit | ...", a block a text; an unset column shows "∅".
+    QStringList blöcke() const {
+        QStringList ergebnis;
+        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
+        for (; !b.Eof(); b.MoveNext()) {
+            QStringList werte;
+            Recordset w = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
+                                             b.Text("MessungID") + " ORDER BY rowid");
+            for (; !w.Eof(); w.MoveNext())
+                werte << (spalte(w, "Funktion") + "=" + spalte(w, "wert") + " " + spalte(w, "Einheit"))
+                             .trimmed();
+            ergebnis << b.Text("VerteilerNr") + " " + b.Text("StromkreisNr") + ": " + werte.join(" | ");
+        }
+        return ergebnis;
+    }
+    // "customer/plant board circuit date time" of each block.
+    QStringList orte() const {
+        QStringList ergebnis;
+        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
+        for (; !b.Eof(); b.MoveNext())
+            ergebnis << b.Text("KundeNr") + "/" + b.Text("AnlageNr") + " " + b.Text("VerteilerNr") + " " +
+                            b.Text("StromkreisNr") + " " + b.Text("Datum") + " " + b.Text("Uhrzeit");
+        return ergebnis;
+    }
+    QString gerät() const {
+        return wert("SELECT PrüfgerätName & '|' & Versionsnummer & '|' & Seriennummer & '|' & PrüfgerätID "
+                    "FROM 0100_EinleseGeräteDaten ORDER BY GeräteID DESC");
+    }
+
+    static inline const QString Z3720 = "ZEMAK 3720B,1.04,3720315";
+};
+
+TEST_F(Zemak, The3710GivesOneRowPerRecordAndItsValuesByFunctionCode) {
+    probeLesen(selektor::Zemak, "zemak-3710.ser");
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(
+        blöcke(),
+        QStringList({
+            "0001 0001: Spannung Uac=230 V | Spannung f=50,0 Hz",
+            "0001 0002: R ISO, M, R=245 Mohm | R ISO, M, U=530 V | R ISO, E, Un=500 V",
+            "0001 0002: LOW Ohm=0,12 Ohm",
+            "0001 0003: Z LOOP, M, Z=0,35 Ohm | Z LOOP, M, Isc=657 A",
+            "0001 0003: Z LINE, M, Z=0,28 Ohm | Z LINE, M, Isc=0,82 KA",
+            "0001 0004: Z LOOP, M, Z=0,45 Ohm | R LOOP N-PE, M, R=0,40 Ohm",
+            "0002 0001: RCD t, M, t=18 ms | RCD t, M, Ub=3,5 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=30 mA | "
+            "RCD t, E, mult.:=x1 | RCD t, E, phase:= 0° | RCD t, E, type := AC",
+            "0002 0001: RCD I, M, Id=24 mA | RCD t, M, Ub=2,9 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=30 mA | "
+            "RCD t, E, phase:= 180° | RCD t, E, type := AC S",
+            "0002 0005: Re=12,5 Ohm",
+            "0002 0006: Phase=123",
+        }));
+    EXPECT_EQ(orte().value(0), "/ 0001 0001 14.03.2024 09:30:00");
+    EXPECT_EQ(orte().value(9), "/ 0002 0006 14.03.2024 09:52:45");
+    EXPECT_EQ(gerät(), "ZEMAK 3710|1.03|3710042|0");
+    EXPECT_EQ(anzahl("Prüfgerät"), 0); // read from a file: the register stays as it was
+}
+
+TEST_F(Zemak, The3710BNamesItsConductorsAndStoresOddCurrentsAsNumbers) {
+    probeLesen(selektor::Zemak3710B, "zemak-3710b.ser");
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(
+        blöcke(),
+        QStringList({
+            "0001 0001: Spannung Uac=230 V | m_Bemerkung=Uac:L-PE | Spannung f=50,0 Hz",
+            "0001 0002: R ISO, M, R=>200,0 Mohm | R ISO, M, U=260 V | R ISO, E, Un=250 V",
+            "0001 0002: LOW Ohm=0,19 Ohm",
+            "0001 0003: Z LOOP, M, Z=0,41 Ohm | Z LOOP, M, Isc=561 A",
+            "0001 0003: Z LINE, M, Z=0,22 Ohm | Z LINE, M, Isc=1,01 KA",
+            "0002 0001: RCD t, M, t=9 ms | RCD t, M, Ub=1,7 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=150 mA | "
+            "RCD t, E, mult.:=x5 | RCD t, E, phase:= 0° | RCD t, E, type := PL",
+            "0002 0002: RCD I, M, Id=80 mA | RCD t, M, Ub=1,2 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=100 mA "
+            "| "
+            "RCD t, E, phase:= 180° | RCD t, E, type := PL S",
+            "0002 0007: Re=39,0 Ohm",
+            "0002 0008: Phase=321",
+        }));
+    EXPECT_EQ(orte().value(5), "/ 0002 0001 06.05.2024 14:10:00");
+    EXPECT_EQ(gerät(), "ZEMAK 3710B|2.10|3711877|0");
+}
+
+TEST_F(Zemak, The3720ReadsEveryTestFromTheWholeModeWord) {
+    probeLesen(selektor::Zemak3720, "zemak-3720.ser");
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(
+        blöcke(),
+        QStringList({
+            "1202 0101: Spannung Uac=231 V | m_Bemerkung=Uac:N-PE | Spannung f=50,0 Hz",
+            "1202 0102: m_KTS_INSUPE=>200 Mohm | R ISO, M, U=1010 V | R ISO, E, Un=1000 V",
+            "1202 0103: m_KTS_INSUPP=50,0 Mohm | R ISO, M, U=275 V | R ISO, E, Un=250 V",
+            "1202 0104: m_KTS_CONTN=0,30 Ohm",
+            "1202 0105: Z LOOP, M, Z=0,48 Ohm | R LOOP N-PE, M, R=0,42 Ohm",
+            "1202 0106: Z LOOP, M, Z=0,345 Ohm | Z LOOP, M, Isc=666 A",
+            "1202 0201: RCD t, M, t=17 ms | RCD t, M, Ub=2,5 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=100 mA | "
+            "RCD t, E, mult.:=x5 | RCD t, E, phase:= 180° | RCD t, E, type := PL S",
+            "1202 0202: RCD I, M, Id=130 mA | RCD t, M, Ub=0,7 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=150 mA "
+            "| "
+            "RCD t, E, phase:= 0° | RCD t, E, type := B",
+            "1202 0209: Re=10,00 Ohm",
+            "1202 0210: Phase=123",
+        }));
+    EXPECT_EQ(orte().value(0), "/??? 1202 0101 02.09.2024 08:15:00");
+    EXPECT_EQ(gerät(), "ZEMAK 3720B|1.04|3720315|0");
+}
+
+TEST_F(Zemak, The3740KeepsPlantAndFunctionInFieldsOfTheirOwn) {
+    probeLesen(selektor::Zemak3740, "zemak-3740.ser");
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(
+        blöcke(),
+        QStringList({
+            "1202 0101: Spannung Uac=229 V | m_Bemerkung=Uac:L-PE | Spannung f=50,0 Hz",
+            "1202 0102: m_KTS_INSUPN=40,0 Mohm | R ISO, M, U=55 V | R ISO, E, Un=50 V",
+            "1202 0103: =0,17 Ohm",
+            "1202 0104: Z LOOP, M, Z=0,38 Ohm | Z LOOP, M, Isc=605 A",
+            "1202 0105: Z LOOP, M, Z=0,370 Ohm | Z LOOP, M, Isc=601 A",
+            "1202 0201: RCD I, M, Id=8 mA | RCD t, M, Ub=0,4 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=10 mA | "
+            "RCD t, E, phase:= 0° | RCD t, E, type := AC",
+            "1202 0207: Re=21,0 Ohm",
+            "1202 0208: Phase=321",
+        }));
+    EXPECT_EQ(orte().value(7), "/0002 1202 0208 30.06.2025 08:06:00");
+    EXPECT_EQ(gerät(), "ZEMAK 3740B|3.02|3740226|0");
+}
+
+TEST_F(Zemak, TheQuentavoirIsA3720UnderItsMakersName) {
+    probeLesen(selektor::Quentavoir, "quentavoir.ser");
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(
+        blöcke(),
+        QStringList({
+            "3401 0101: Spannung Uac=229 V | m_Bemerkung=Uac:L-N | Spannung f=49,9 Hz",
+            "3401 0102: m_KTS_INSUNE=55 Mohm | R ISO, M, U=61 V | R ISO, E, Un=50 V",
+            "3401 0103: m_KTS_CONT+=0,21 Ohm",
+            "3401 0104: Z LINE, M, Z=0,450 Ohm | Z LINE, M, Isc=6,6 KA",
+            "3401 0105: RCD t, M, t=290 ms | RCD t, M, Ub=4,6 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=10 mA | "
+            "RCD t, E, mult.:=x1/2 | RCD t, E, phase:= 0° | RCD t, E, type := AC",
+        }));
+    EXPECT_EQ(gerät(), "HELVARD Quentavoir|1.20|Q9015|0");
+    // A 3720 file is no Quentavoir's: its identification line is never found.
+    probeLesen(selektor::Quentavoir, "zemak-3720.ser");
+    EXPECT_EQ(m_ui.texte(), QStringList{"62 Einlesen hinter Dateiende"});
+    EXPECT_EQ(m_ui.meldungen.value(0).titel, Standardtitel);
+}
+
+TEST_F(Zemak, ASerialTransferRegistersTheInstrumentWithItsModelsType) {
+    const struct {
+        QString selektor, probe, bezeichnung;
+        int typ;
+    } modelle[] = {
+        {selektor::Zemak, "zemak-3710.ser", "ZEMAK 3710", 103},
+        {selektor::Zemak3710B, "zemak-3710b.ser", "ZEMAK 3710B", 104},
+        {selektor::Zemak3720, "zemak-3720.ser", "ZEMAK 3720B", 105},
+        {selektor::Zemak3740, "zemak-3740.ser", "ZEMAK 3740B", 105}, // told from a 3720 by its name only
+        {selektor::Quentavoir, "quentavoir.ser", "HELVARD Quentavoir", 106},
+    };
+    for (const auto& m : modelle) {
+        probeLesen(m.selektor, m.probe, {});
+        const QString id = text(modul().PrüfgerätID);
+        EXPECT_EQ(wert("SELECT Bezeichnung & '|' & typ FROM Prüfgerät WHERE PrüfgerätID = " + id),
+                  m.bezeichnung + "|" + QString::number(m.typ));
+        EXPECT_TRUE(gerät().endsWith("|" + id));
+        probeLesen(m.selektor, m.probe, {}); // found again
+        probeLesen(m.selektor, m.probe);     // and from a file too
+        EXPECT_TRUE(gerät().endsWith("|" + id)) << m.probe.toStdString();
+    }
+    EXPECT_EQ(anzahl("Prüfgerät"), 5);
+    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 15);
+}
+
+TEST_F(Zemak, ModeBitsOfThe3720AreTestedAsWholeMasksInTheirOrder) {
+    lesen3720({
+        "04B2,0065,0,0011,00,0019,01,1418,0,0,", // trip time with 24: the multiplier row stays unset
+        "04B2,0065,0,0011,00,0019,01,1400,0,0,", // with none of 8 and 16: x1/2
+        "04B2,0066,0,0037,00,003D,00,0401,0,0,", // insulation x And 7 = 1
+        "04B2,0066,0,0037,00,003D,00,0587,0,0,", // ... = 7, and &H180 is caught by 128
+        "04B2,0067,0,0012,00,0010,00,C01,0,0,",  // three digits: "C0" is a voltage, not a loop
+        "04B2,0068,0,0159,00,029A,00,1001,0,0,", // second form without milli
+        "04B2,0068,0,0012,00,0010,00,2400,0,0,", // &H24 is no function: the row stands alone
+        "04B2,0069,0,0012,00,0010,00,0800,0,0",
+    });
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    const QStringList b = blöcke();
+    ASSERT_EQ(b.size(), 8);
+    EXPECT_TRUE(b[0].contains("RCD t, E, mult.:=∅ | RCD t, E, phase:= 0°")) << b[0].toStdString();
+    EXPECT_TRUE(b[1].contains("RCD t, G, Ub=<25 V | RCD t, E, Idn=10 mA | RCD t, E, mult.:=x1/2"));
+    EXPECT_TRUE(b[2].startsWith("1202 0102: m_KTS_INSUPP=55 Mohm")) << b[2].toStdString();
+    EXPECT_TRUE(b[2].endsWith("R ISO, E, Un=50 V"));
+    EXPECT_TRUE(b[3].startsWith("1202 0102: m_KTS_INSUNE=55 Mohm"));
+    EXPECT_TRUE(b[3].endsWith("R ISO, E, Un=100 V")) << b[3].toStdString();
+    EXPECT_EQ(b[4], "1202 0103: Spannung Uac=18 V | m_Bemerkung=Uac:L-PE | Spannung f=16 Hz");
+    EXPECT_EQ(b[5], "1202 0104: Z LOOP, M, Z=345 Ohm | Z LOOP, M, Isc=666 A");
+    EXPECT_EQ(b[6], "1202 0104: ");
+    EXPECT_EQ(b[7], "1202 0105: m_KTS_CONTR=18 Ohm");
+    // The multiplier row of the first record: no value, an empty unit.
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseMessDaten WHERE Funktion = 'RCD t, E, mult.:' AND "
+                   "wert IS NULL AND Einheit = ''"),
+              "1");
+}
+
+TEST_F(Zemak, The3740ComparesItsNibblesUnshifted) {
+    const QString satz = "0002,04B2,0065,0,%1,%2,%3,0,0012,0010,0007,0,0,00,%4,00,0,0,0";
+    textLesen(selektor::Zemak3740,
+              speicher("ZEMAK 3740B,3.02,3740226",
+                       {
+                           satz.arg("1001", "04", "01", "00") + ",", // loop current: kA by field 7
+                           satz.arg("1000", "04", "01", "00") + ",", // line current: A by field 15
+                           satz.arg("6100", "06", "00", "01") + ",", // m = 1 is no "A", h = 6 no value C
+                           satz.arg("0000", "06", "00", "00") + ",",
+                           satz.arg("0003", "01", "00", "00") + ",", // n = 3 names no insulation
+                           satz.arg("0003", "02", "00", "00") + ",",
+                           satz.arg("0000", "05", "00", "00"), // 5: the row stands alone
+                       }));
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(blöcke(), QStringList({
+                            "1202 0101: Z LOOP, M, Z=0,018 Ohm | Z LOOP, M, Isc=16 KA",
+                            "1202 0101: Z LINE, M, Z=0,018 Ohm | Z LINE, M, Isc=16 A",
+                            "1202 0101: RCD I, M, Id=18 mA | RCD t, M, Ub=1,6 V | RCD t, G, Ub=<25 V | "
+                            "RCD t, E, Idn=∅ mA | RCD t, E, phase:= 0° | RCD t, E, type := ∅",
+                            "1202 0101: RCD I, M, Id=18 mA | RCD t, M, Ub=16 V | RCD t, G, Ub=<25 V | "
+                            "RCD t, E, Idn=10 mA | RCD t, E, phase:= 0° | RCD t, E, type := AC",
+                            "1202 0101: ∅=18 Mohm | R ISO, M, U=16 V | R ISO, E, Un=50 V",
+                            "1202 0101: ∅=18 Ohm",
+                            "1202 0101: ",
+                        }));
+}
+
+TEST_F(Zemak, CodeSplittingDividesTheTwoCodes) {
+    const QStringList sätze{"04D2,162E,0,0012,00,0010,00,1C00,0,0"};
+    lesen3720(sätze); // off by default
+    sql("INSERT INTO init VALUES ('codeSplitting3720', '1');");
+    lesen3720(sätze); // two digits each by default
+    sql("INSERT INTO init VALUES ('Kundencodestellen3720', '4'), ('Verteilercodestellen3720', '4');");
+    lesen3720(sätze);
+    sql("UPDATE init SET wert = '0' WHERE name = 'Kundencodestellen3720';"
+        "UPDATE init SET wert = '2' WHERE name = 'Verteilercodestellen3720';");
+    lesen3720(sätze);
+    EXPECT_EQ(orte(), QStringList({
+                          "/??? 1234 5678 01.01.2000 00:00:00",
+                          "12/034 0056 0078 01.01.2000 00:00:00",
+                          "1234/??? 5678 ??? 01.01.2000 00:00:00",
+                          "/234 0056 0078 01.01.2000 00:00:00",
+                      }));
+
+    // The 3740's plant comes from its first field, and stays there when all digits are the customer's.
+    const QString satz3740 = "0007,04D2,162E,0,0,07,00,0,0012,0,0,0,0,00,00,00,0,0,0";
+    sql("UPDATE init SET wert = '4' WHERE name = 'Kundencodestellen3720';");
+    textLesen(selektor::Zemak3740, speicher("ZEMAK 3740B,3.02,3740226", {satz3740}));
+    EXPECT_EQ(orte().last(), "1234/0007 0056 0078 01.01.2000 00:00:00");
+
+    // An empty setting cannot be a truth value: the read ends before the first record.
+    sql("UPDATE init SET wert = NULL WHERE name = 'codeSplitting3720';");
+    lesen3720(sätze);
+    EXPECT_EQ(m_ui.texte(), QStringList{"13 Typen unverträglich (\"\")"});
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 5);
+    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 6);
+}
+
+TEST_F(Zemak, ABadMemoryOfThe3710BIsReadWithoutValues) {
+    const QString satz = "%1,01,%2,00E6,00,01F4,01,0001,0000,0";
+    textLesen(selektor::Zemak3710B, speicher("ZEMAK 3710B,2.10,3711877",
+                                             {
+                                                 satz.arg("01", "0001") + ",",
+                                                 satz.arg("01", "01BD") + ",", // memory index 445
+                                                 satz.arg("02", "0003") + ",", // good again, but too late
+                                                 satz.arg("ZZ", "0004") + ",", // still read: ends the read
+                                                 satz.arg("03", "0005"),
+                                             }));
+    EXPECT_EQ(m_ui.texte(), QStringList({"Speicherfehler3710B", "13 Typen unverträglich (\"ZZ\")"}));
+    EXPECT_EQ(m_ui.meldungen.value(0).titel, "vemotrix professional");
+    EXPECT_EQ(m_ui.meldungen.value(1).titel, Standardtitel);
+    EXPECT_EQ(blöcke(), QStringList({
+                            "0001 0001: Spannung Uac=230 V | m_Bemerkung=Uac:L-PE | Spannung f=50,0 Hz",
+                            "0100 0100: ",
+                            "0100 0100: ",
+                        }));
+    EXPECT_EQ(orte().value(1), "/ 0100 0100  ");
+}
+
+TEST_F(Zemak, AFailureEndsTheReadButThe3710GoesOnStatementByStatement) {
+    const QStringList sätze{
+        "01,01,0001,00G6,00,01F4,01,0000,0,", // value A is no number
+        "01,02,0002,00F5,00,0212,00,05Z0,0,", // nor is the mode word
+        "01,03,0003,000C,02,0000,00,0800,0",
+    };
+    textLesen(selektor::Zemak, speicher("ZEMAK 3710,1.03,3710042", sätze));
+    EXPECT_EQ(m_ui.texte(),
+              QStringList({"13 Typen unverträglich (\"00G6\")", "13 Typen unverträglich (\"05Z0\")"}));
+    EXPECT_EQ(m_ui.meldungen.value(1).titel, Standardtitel);
+    EXPECT_EQ(blöcke(), QStringList({"0001 0001: Spannung Uac=∅ V | Spannung f=50,0 Hz",
+                                     "0001 0002: ", "0001 0003: LOW Ohm=0,12 Ohm"}));
+
+    // The 3720 stops at the first: the row of the record stays, its values do not.
+    lesen3720({"04B2,0065,0,00G6,00,01F4,01,0000,0,0,", "04B2,0066,0,0012,00,0010,00,1C00,0,0"});
+    EXPECT_EQ(m_ui.texte(), QStringList{"13 Typen unverträglich (\"00G6\")"});
+    EXPECT_EQ(blöcke().mid(3), QStringList{"1202 0101: "});
+
+    // The test current is read by every record of the 3720, though only an RCD test uses it.
+    lesen3720({"04B2,0065,0,0012,00,0010,00,1C00,ZZZZ,0"});
+    EXPECT_EQ(m_ui.texte(), QStringList{"13 Typen unverträglich (\"ZZZZ\")"});
+    EXPECT_EQ(blöcke().last(), "1202 0101: ");
+
+    // A record too short: the 3710 takes its fields round again, the 3720 runs out of them.
+    textLesen(selektor::Zemak, speicher("ZEMAK 3710,1.03,3710042", {"05,06,0,1800"}));
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    // Field 8, the mode word, is field 4; the attribute in field 5 is field 1.
+    EXPECT_EQ(blöcke().last(), "0005 0006: Re=614,4 Ohm");
+    lesen3720({"04B2,0065,0,0012,00"});
+    EXPECT_EQ(m_ui.texte(), QStringList{"9 Index außerhalb des gültigen Bereichs (Feld 10)"});
+}
+
+TEST_F(Zemak, WhatAFileLacksIsToldOrLostAsTheModelsDo) {
+    const QString satz = "04B2,%1,0,0012,00,0010,00,1C00,0,0";
+    // Cut behind a record: that record is lost without a word.
+    textLesen(selektor::Zemak3720,
+              QStringList{Z3720, "QD 2,0003,"} +
+                  QStringList{satz.arg("0065") + ",", satz.arg("0066") + ",", satz.arg("0067")});
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(blöcke(), QStringList({"1202 0101: Re=18 Ohm", "1202 0102: Re=18 Ohm"}));
+
+    // A code of more than four digits loses its leading ones.
+    lesen3720({"186A0,1E240,0,0012,00,0010,00,1C00,0,0"});
+    EXPECT_EQ(blöcke().last(), "0000 3456: Re=18 Ohm");
+
+    // No records: the empty line behind "QD 2" is read as one, and fails.
+    textLesen(selektor::Zemak3720, {Z3720, "QD 2,0000,", "", "00"});
+    EXPECT_EQ(m_ui.texte(), QStringList{"13 Typen unverträglich (\"\")"});
+    // No "QD 2" at all, as from an empty memory; and no identification line.
+    textLesen(selektor::Zemak3720, {Z3720, "XG,1", "5"});
+    EXPECT_EQ(m_ui.texte(), QStringList{"62 Einlesen hinter Dateiende"});
+    textLesen(selektor::Zemak3740, {"XG,1", "QD 2,00000001,", "00"});
+    EXPECT_EQ(m_ui.texte(), QStringList{"62 Einlesen hinter Dateiende"});
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 3);
+
+    // An identification line with one comma has no version.
+    textLesen(selektor::Zemak3720, {"ZEMAK 3720B,1.04", "QD 2,0001,", satz.arg("0065"), "00"});
+    EXPECT_TRUE(m_ui.texte().value(0).startsWith("5 ")) << m_ui.texte().value(0).toStdString();
+    EXPECT_EQ(m_ui.meldungen.value(0).titel, Standardtitel);
+    QFile::remove(arbeitsdatei(datei::Ruvo));
+    starten(selektor::Zemak, "/tmp/x.ser");
+    EXPECT_TRUE(m_ui.texte().value(0).startsWith("53 "));
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 3);
+}
+
+} // namespace

@@ -1,0 +1,135 @@
+#include "parsers/Zemakfelder.h"
+#include "core/InitTabelle.h"
+#include "parsers/Codeaufteilung.h"
+#include "parsers/ZeitAusSekunden.h"
+#include "platform/Zahlformat.h"
+#include "support/Testumgebung.h"
+
+using namespace vemo;
+
+namespace {
+
+int fehlernummer(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (const Fehler& e) {
+        return e.nummer();
+    }
+    return 0;
+}
+
+TEST(Zemakfelder, FieldsWrapRoundInTheOlderModelsAndEndInTheNewer) {
+    QStringList felder;
+    for (int n = 1; n <= 7; ++n)
+        felder << GetFeld("0A,1B,2C", n);
+    EXPECT_EQ(felder, QStringList({"0A", "1B", "2C", "0A", "1B", "2C", "0A"}));
+    EXPECT_EQ(GetFeld("0A,1B,", 3), "");
+    EXPECT_EQ(GetFeld("0A,1B,", 4), "0A");
+    EXPECT_EQ(GetFeld("", 5), "");
+
+    const Datensatz älter("0A,1B,2C", true);
+    const Datensatz neuer("0A,1B,2C", false);
+    EXPECT_EQ(älter.zahl(5), 0x1Bu);
+    EXPECT_EQ(neuer.zahl(3), 0x2Cu);
+    EXPECT_EQ(fehlernummer([&] { neuer.feld(4); }), fehler::IndexAußerhalb);
+}
+
+TEST(Zemakfelder, HexadecimalFieldsAndCodes) {
+    EXPECT_EQ(hexZahl("8123"), 33059u); // unsigned, though its top bit is set
+    EXPECT_EQ(hexZahl("ffff"), 65535u);
+    EXPECT_EQ(codeText("04D2"), "1234");
+    EXPECT_EQ(codeText("7"), "0007");
+    EXPECT_EQ(codeText("186A0"), "0000"); // 100000: the leading digits are lost
+    EXPECT_EQ(codeText("1E240"), "3456");
+    EXPECT_EQ(fehlernummer([] { hexZahl("12G4"); }), fehler::TypenUnverträglich);
+    EXPECT_EQ(fehlernummer([] { hexZahl(""); }), fehler::TypenUnverträglich);
+    EXPECT_EQ(fehlernummer([] { hexZahl("&H12"); }), fehler::TypenUnverträglich);
+    EXPECT_EQ(fehlernummer([] { hexZahl("10000000000000000"); }), fehler::Überlauf);
+
+    const Datensatz satz("0,0,0,0,0,0,0,94F2", true);
+    EXPECT_EQ(GetCode3(satz), 5u); // bits 10 to 12
+    EXPECT_EQ(GetCode4(satz), 5u); // bit 13 is clear
+    EXPECT_EQ(GetCode4(Datensatz("0,0,0,0,0,0,0,2000", true)), 8u);
+    EXPECT_EQ(GetCode3(Datensatz("0,0,0,0,0,0,0,2000", true)), 0u);
+}
+
+TEST(Zemakfelder, AttributeGivesDecimalsAndMarks) {
+    zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
+    const struct {
+        const char* wert;
+        const char* attribut;
+        bool milli;
+        QString text;
+    } fälle[] = {
+        {"0123", "00", false, "291"},      {"04D2", "01", false, "123,4"},
+        {"04D2", "02", false, "12,34"},    {"04D5", "03", false, "1,24"},
+        {"04D2", "03", false, "1,23"},     {"0005", "02", false, "0,05"},
+        {"0159", "00", true, "0,345"},     {"0159", "01", true, "0,035"},
+        {"0000", "00", false, "0"},        {"04D2", "48", false, "---"},
+        {"04D2", "C8", false, "---"},      {"04D2", "88", false, ">1234"},
+        {"04D2", "09", false, ">123,4"},   {"04D2", "81", false, "ERR123,4"},
+        {"04D2", "83", false, "ERR1,234"}, {"0159", "80", true, "ERR0,345"},
+    };
+    for (const auto& f : fälle)
+        EXPECT_EQ(GetWertTextMilli(f.wert, f.attribut, f.milli), f.text) << f.wert << " " << f.attribut;
+    // Both fields are read before the marks are looked at.
+    EXPECT_EQ(fehlernummer([] { GetWertTextMilli("xx", "40", false); }), fehler::TypenUnverträglich);
+    zahlformat::setzen(QLocale::c());
+    EXPECT_EQ(GetWertTextMilli("04D2", "02", false), "12.34");
+    zahlformat::ausUmgebung();
+}
+
+TEST(Zemakfelder, TheClockCountsFromTheMillennium) {
+    EXPECT_EQ(ZeitAusSekunden(0), QDateTime(QDate(2000, 1, 1), QTime(0, 0)));
+    EXPECT_EQ(ZeitAusSekunden(366 * 86400 + 3661), QDateTime(QDate(2001, 1, 1), QTime(1, 1, 1)));
+    // A summer moment keeps its wall-clock time: the instrument knows no summer time.
+    EXPECT_EQ(ZeitAusSekunden(0x2FF4FCFC), QDateTime(QDate(2025, 6, 30), QTime(7, 45)));
+    EXPECT_EQ(ZeitAusSekunden(0xFFFFFFFF), QDateTime(QDate(2136, 2, 7), QTime(6, 28, 15)));
+}
+
+TEST(Codeaufteilung, DigitsGoToCustomerPlantBoardAndCircuit) {
+    const struct {
+        qint32 k, v;
+        QString ergebnis; // customer, plant, board, circuit
+    } fälle[] = {
+        {2, 2, "12 034 0056 0078"},  {4, 4, "1234 ??? 5678 ???"}, {0, 2, " 234 0056 0078"},
+        {1, 3, "1 234 0567 0008"},   {3, 1, "123 004 0005 0678"}, {0, 0, " 234 ??? 5678"},
+        {9, 9, "1234 ??? 5678 ???"}, {-1, -1, " 234 ??? 5678"},
+    };
+    for (const auto& f : fälle) {
+        Blockkopf k{{}, "???", "1234", "5678", {}, {}};
+        codeAufteilen(k, {true, f.k, f.v});
+        EXPECT_EQ(QStringList({k.kundeNr, k.anlageNr, k.verteilerNr, k.stromkreisNr}).join(' '), f.ergebnis)
+            << f.k << " " << f.v;
+    }
+}
+
+using Einstellungen = test::Testumgebung;
+
+TEST_F(Einstellungen, CodeSplittingIsReadFromInit) {
+    const Codeaufteilung standard = codeaufteilungLesen();
+    EXPECT_FALSE(standard.an);
+    EXPECT_EQ(standard.kundenstellen, 2);
+    EXPECT_EQ(standard.verteilerstellen, 2);
+
+    sql("INSERT INTO init VALUES ('codeSplitting3720', '1'), ('Kundencodestellen3720', '3'), "
+        "('Verteilercodestellen3720', '1');");
+    const Codeaufteilung gesetzt = codeaufteilungLesen();
+    EXPECT_TRUE(gesetzt.an);
+    EXPECT_EQ(gesetzt.kundenstellen, 3);
+    EXPECT_EQ(gesetzt.verteilerstellen, 1);
+
+    // Only the first 50 characters of a name count.
+    EXPECT_EQ(InitLesen("codeSplitting3720" + QString(40, 'x'), "?"), "?");
+    sql("INSERT INTO init VALUES ('" + QString(50, 'n') + "', 'lang');");
+    EXPECT_EQ(InitLesen(QString(60, 'n'), "?"), "lang");
+
+    sql("UPDATE init SET wert = NULL WHERE name = 'codeSplitting3720';");
+    EXPECT_EQ(InitLesen("codeSplitting3720", "0"), "");
+    EXPECT_EQ(fehlernummer([] { codeaufteilungLesen(); }), fehler::TypenUnverträglich);
+    sql("UPDATE init SET wert = 'True' WHERE name = 'codeSplitting3720';"
+        "UPDATE init SET wert = '5000000000' WHERE name = 'Kundencodestellen3720';");
+    EXPECT_EQ(fehlernummer([] { codeaufteilungLesen(); }), fehler::Überlauf);
+}
+
+} // namespace
