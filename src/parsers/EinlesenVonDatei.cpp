@@ -3,6 +3,7 @@
 #include "core/ModulState.h"
 #include "parsers/Corvex.h"
 #include "parsers/MultitesterTabelle.h"
+#include "parsers/Sorelin.h"
 #include "platform/Ui.h"
 
 #include <QHash>
@@ -21,7 +22,7 @@ void nochNichtMöglich() {
 // The parser of each Selektor; any selector not listed reads the Multitester report format.
 const QHash<QString, Parser>& parserDerSelektoren() {
     static const QHash<QString, Parser> tabelle{
-        {"Multitester = Kontalex", nochNichtMöglich},    {"Multitester = Sorelin", nochNichtMöglich},
+        {"Multitester = Kontalex", nochNichtMöglich},    {"Multitester = Sorelin", Sorelin},
         {"Multitester = ZEMAK 3710B", nochNichtMöglich}, {"Multitester = ZEMAK 3720", nochNichtMöglich},
         {"Multitester = ZEMAK 3740", nochNichtMöglich},  {"Multitester = Quentavoir", nochNichtMöglich},
         {"Multitester = ZEMAK", nochNichtMöglich},
