@@ -3,6 +3,7 @@
 
 #include "core/Arbeitsdateien.h"
 #include "core/Geraetetypen.h"
+#include "host/DateiEinlesen.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "parsers/SorelinTreiber.h"
 #include "store/Recordset.h"
@@ -155,6 +156,37 @@ TEST_F(SorelinTest, DieselbeStromkreisnummerDirektHinterDerLetztenZeileGibtKeine
     EXPECT_EQ(gelesen(),
               (QStringList{"0001/0001: LOW Ohm=0.35 Ohm | LOW Ohm=0.36 Ohm", "0001/0002: LOW Ohm=0.37 Ohm"}));
     EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 2);
+}
+
+TEST_F(SorelinTest, DieProbenWerdenAusDerDateiErkanntUndGelesen) {
+    const struct {
+        const char* probe;
+        QStringList meldungen;
+        long zeilen;
+        long werte;
+    } proben[] = {
+        {"sorelin-pm12.ser", {}, 3, 42},
+        {"sorelin-pm20.ser", {}, 3, 36},
+        {"sorelin-unbekanntes-geraet.ser", {"Unbekanntes Prüfgerät"}, 0, 0},
+        {"sorelin-treiber-veraltet.ser", {"Ihr Treiber ist nicht aktuell SORELIN PM 12 Version 1.5"}, 0, 0},
+        {"sorelin-zwei-zusatzbloecke.ser", {"MessBlockKennung nicht bekannt"}, 0, 0},
+    };
+    modul().BackupVerzeichnis = m_dir.path();
+    for (const auto& p : proben) {
+        SCOPED_TRACE(p.probe);
+        sql("DELETE FROM \"0100_EinleseDaten\";");
+        modul().Selektor() = selektor::Deutsch;
+        m_ui.meldungen.clear();
+        EinlesenAusDateiName(quelle(QString("samples/") + p.probe));
+        EXPECT_EQ(modul().Selektor(), selektor::Sorelin);
+        EXPECT_EQ(m_ui.texte(), p.meldungen);
+        EXPECT_EQ(anzahl("0100_EinleseDaten"), p.zeilen);
+        EXPECT_EQ(anzahl("0100_EinleseMessDaten"), p.werte);
+        EXPECT_EQ(wert("SELECT Group_Concat(Funktion) FROM 0100_EinleseMessDaten WHERE Funktion NOT IN "
+                       "(SELECT TeilFunktion FROM 0100_TeilFunktion)"),
+                  "")
+            << "the host data knows every function name the driver tables give";
+    }
 }
 
 // Driver tables of our own for the columns' meaning, apart from the shipped host data.
