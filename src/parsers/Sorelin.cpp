@@ -49,6 +49,7 @@ void melden(const QString& text, MsgSymbol symbol = MsgSymbol::Keins) {
     ui().MsgBox(text, modul().anwendungstitel, {MsgKnöpfe::Ok, symbol});
 }
 
+// The image is refused: the user is told why, and the driver goes no further.
 void abbrechenMit(const QString& text, MsgSymbol symbol = MsgSymbol::Keins) {
     melden(text, symbol);
     modul().Abbruchmerker = 1;
@@ -69,12 +70,15 @@ public:
 
 private:
     bool kopfLesen();
+    qsizetype startblockLesen(qsizetype längenbyte);
+    bool datenblockFinden(qsizetype position);
     bool treiberÖffnen();
     bool versionGeprüft() const;
     qint32 geräteDatenAnlegen() const;
     void messungenLesen(qint32 geräteID);
     qint32 stromkreisZeile(qint32 geräteID, int zähler);
     void messblockLesen(qsizetype position, qint32 messungID);
+    QString wertzeilen(qint32 messungID, const Treiberzeile& zeile, const Wertgruppe& g, const QString& wert);
     void einstellungenSchreiben(int id, const Treiberzeile& zeile, const Blockzeilen& block,
                                 qint32 messungID);
     void listenzeile(qint32 messungID, const QString& funktion, const QString& liste,
@@ -83,7 +87,6 @@ private:
                        const QString& einheit);
 
     QByteArray m_bild;
-    qsizetype m_position = 0;
     int m_typ = 0;
     QString m_version;
     qsizetype m_datenanfang = 0;
@@ -99,7 +102,6 @@ void SorelinLauf::lesen() {
     messungenLesen(geräteDatenAnlegen());
 }
 
-// The start mark, the start block, an optional block of kind 10, the head of the data block.
 bool SorelinLauf::kopfLesen() {
     const qsizetype marke = m_bild.indexOf(sorelin::Startmarke);
     if (marke < 0) {
@@ -107,28 +109,36 @@ bool SorelinLauf::kopfLesen() {
         melden(xText("Startblock Error"));
         throw fehler::mit(fehler::IndexAußerhalb);
     }
-    const qsizetype start = marke + sorelin::Startmarke.size() + 1;
-    const int länge = byteBei(m_bild, start - 1);
+    return datenblockFinden(startblockLesen(marke + sorelin::Startmarke.size()));
+}
+
+// The start block behind its length byte: type, serial number, firmware. The position behind it.
+qsizetype SorelinLauf::startblockLesen(qsizetype längenbyte) {
+    const qsizetype start = längenbyte + 1;
     if (start + Startblocklänge > m_bild.size())
         throw fehler::mit(fehler::IndexAußerhalb);
     m_typ = int(rohzahl(m_bild, start, 2));
     const QString seriennummer = QString::fromLatin1(m_bild.mid(start + 2, Seriennummerlänge));
     modul().sorelinSeriennummer = seriennummer == OhneSeriennummer ? QString() : seriennummer;
-    m_version = versionText(byteBei(m_bild, start + 11), byteBei(m_bild, start + 12));
-    m_position = start + länge;
+    const qsizetype firmware = start + 2 + Seriennummerlänge;
+    m_version = versionText(byteBei(m_bild, firmware), byteBei(m_bild, firmware + 1));
+    return start + byteBei(m_bild, längenbyte);
+}
 
-    if (byteBei(m_bild, m_position) == sorelin::Zusatzblock)
-        m_position += 2 + byteBei(m_bild, m_position + 1);
-    else if (byteBei(m_bild, m_position) != sorelin::Datenblock) {
+// One optional block of kind 10, then the head of the data block; false when the image is refused.
+bool SorelinLauf::datenblockFinden(qsizetype position) {
+    if (byteBei(m_bild, position) == sorelin::Zusatzblock)
+        position += 2 + byteBei(m_bild, position + 1);
+    else if (byteBei(m_bild, position) != sorelin::Datenblock) {
         abbrechenMit(xText("Blockkennung nicht bekannt"));
         return false;
     }
-    if (byteBei(m_bild, m_position) != sorelin::Datenblock) {
+    if (byteBei(m_bild, position) != sorelin::Datenblock) {
         abbrechenMit(xText("MessBlockKennung nicht bekannt"));
         return false;
     }
-    const quint32 datenlänge = rohzahl(m_bild, m_position + 3, 2);
-    m_datenanfang = m_position + sorelin::DatenblockKopf;
+    const quint32 datenlänge = rohzahl(m_bild, position + 3, 2);
+    m_datenanfang = position + sorelin::DatenblockKopf;
     // The walk ends with the data block, or with the image where it breaks off before.
     m_datenende = std::min(m_datenanfang + qsizetype(datenlänge), m_bild.size());
     return true;
@@ -151,10 +161,9 @@ bool SorelinLauf::treiberÖffnen() {
 bool SorelinLauf::versionGeprüft() const {
     if (zahlformat::val(m_version) <= zahlformat::val(m_treiber->version()))
         return true;
-    melden(xText("Ihr Treiber ist nicht aktuell") + " " + m_treiber->name() + " " + xText("Version") + " " +
-               m_version,
-           MsgSymbol::Warnung);
-    modul().Abbruchmerker = 1;
+    abbrechenMit(xText("Ihr Treiber ist nicht aktuell") + " " + m_treiber->name() + " " + xText("Version") +
+                     " " + m_version,
+                 MsgSymbol::Warnung);
     return false;
 }
 
@@ -214,31 +223,19 @@ qint32 SorelinLauf::stromkreisZeile(qint32 geräteID, int zähler) {
     return messungID;
 }
 
-// The rows of one measurement block: a row a value, named by its test, name part and unit. A
-// setting text of the block adds a row of its own before each value.
+// The rows of one measurement block, value by value, then what its settings add.
 void SorelinLauf::messblockLesen(qsizetype position, qint32 messungID) {
     const int id = byteBei(m_bild, position);
     const Treiberzeile& zeile = m_treiber->messblock(id);
-    const QString einstellung = zeile.spalte(2);
     const int anzahl = int(zahlformat::val(zeile.spalte(7)));
     Blockzeilen block;
-    block.selektiv = einstellung.contains("(s)");
+    block.selektiv = zeile.spalte(2).contains("(s)");
     qsizetype versatz = werteBeginn(m_bild, position);
     for (int k = 0; k < anzahl; ++k) {
         const int spalte = Wertgruppe::ErsteSpalte + k * Wertgruppe::Breite;
         const Wertgruppe g = Wertgruppe::aus(zeile, spalte);
-        const QString wert = WertText(GetSorelinWert(m_bild, versatz, *m_treiber, zeile, spalte));
-        QString erster = wert;
-        if (einstellung.isEmpty()) {
-            wertSchreiben(messungID, (g.vorname + " " + g.name).trimmed(), wert, g.einheit);
-        } else {
-            int start = 1;
-            QString einheit;
-            erster = WertText(GetZahl(einstellung, start, einheit));
-            wertSchreiben(messungID, (g.vorname + " " + zeile.spalte(10) + " " + einheit).trimmed(), erster,
-                          einheit);
-            wertSchreiben(messungID, (g.vorname + " " + g.name + " " + g.einheit).trimmed(), wert, g.einheit);
-        }
+        const QString erster = wertzeilen(
+            messungID, zeile, g, WertText(GetSorelinWert(m_bild, versatz, *m_treiber, zeile, spalte)));
         if (k == 0) {
             block.ersterWert = erster;
             block.funktion = g.vorname.section(' ', 0, 0);
@@ -247,6 +244,24 @@ void SorelinLauf::messblockLesen(qsizetype position, qint32 messungID) {
         versatz += g.größe;
     }
     einstellungenSchreiben(id, zeile, block, messungID);
+}
+
+// A value's row is named by its test and name part. A setting text of the block ("500 V") adds a
+// row of its own before it, named by the test, column 10 and the setting's unit, and the value's
+// name then carries its unit too. The value of the first row written.
+QString SorelinLauf::wertzeilen(qint32 messungID, const Treiberzeile& zeile, const Wertgruppe& g,
+                                const QString& wert) {
+    const QString einstellung = zeile.spalte(2);
+    if (einstellung.isEmpty()) {
+        wertSchreiben(messungID, (g.vorname + " " + g.name).trimmed(), wert, g.einheit);
+        return wert;
+    }
+    int start = 1;
+    QString einheit;
+    const QString zahl = WertText(GetZahl(einstellung, start, einheit));
+    wertSchreiben(messungID, (g.vorname + " " + zeile.spalte(10) + " " + einheit).trimmed(), zahl, einheit);
+    wertSchreiben(messungID, (g.vorname + " " + g.name + " " + g.einheit).trimmed(), wert, g.einheit);
+    return zahl;
 }
 
 // The RCD blocks carry their settings in their last value; the lists of columns 4 to 6 read them.

@@ -1,4 +1,5 @@
 #include "links/LinkHilfen.h"
+#include "support/SorelinBild.h"
 #include "support/Testumgebung.h"
 
 #include "PortLeitung.h"
@@ -54,7 +55,7 @@ protected:
             QPointer<frmSorelin> form = qobject_cast<frmSorelin*>(&d);
             ASSERT_TRUE(form);
             form->setEinschwingzeit(10);
-            QTimer::singleShot(50, form, taste);
+            test::sobaldBereit(*form, taste);
             QTimer::singleShot(5000, form, [this, form] {
                 m_wachhund = true;
                 form->abbrechen();

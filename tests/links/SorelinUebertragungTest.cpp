@@ -85,18 +85,22 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
                                                 "0A00") +
                             SorelinBild(daten).datenblock() + sorelin::Endmarke;
     QList<int> prozente;
-    bool blinkteVorher = false;
+    bool blinktUnterwegs = true;
     QByteArray dateiUnterwegs;
     imDialog([&](frmSorelin& form) {
         QObject::connect(&form, &frmSorelin::aktualisiert, &form, [&] {
-            if (!form.prozentText().isEmpty())
-                prozente << form.prozentText().chopped(1).trimmed().toInt();
+            if (form.prozentText().isEmpty())
+                return;
+            if (prozente.isEmpty()) {
+                blinktUnterwegs = form.blinkt();
+                dateiUnterwegs = datei();
+            }
+            prozente << form.prozentText().chopped(1).trimmed().toInt();
         });
-        QTimer::singleShot(40, &form, [&] {
-            blinkteVorher = form.blinkt();
-            dateiUnterwegs = datei();
+        sobaldBereit(form, [&] {
+            nacheinanderSenden(*instrument, {"\x01\x02\xFF\xD5", rest.left(8), rest.mid(8, 5), rest.mid(13)},
+                               30);
         });
-        nacheinanderSenden(*instrument, {"\x01\x02\xFF\xD5", rest.left(8), rest.mid(8, 5), rest.mid(13)}, 60);
     });
 
     übertragen();
@@ -107,7 +111,7 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
     EXPECT_EQ(dateiUnterwegs, AlteDatei) << "the old file stays until the end mark";
     EXPECT_EQ(modul().Abbruchmerker, 0);
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_TRUE(blinkteVorher);
+    EXPECT_FALSE(blinktUnterwegs) << "the prompt stops blinking with the start mark";
     ASSERT_FALSE(prozente.isEmpty());
     EXPECT_TRUE(std::is_sorted(prozente.begin(), prozente.end()));
     EXPECT_GE(prozente.last(), 90);
@@ -117,13 +121,13 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
 TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
-    imDialog([&](frmSorelin&) {
-        nacheinanderSenden(*instrument,
-                           {sorelin::Startmarke + QByteArray::fromHex("00"
-                                                                      "0A00"
-                                                                      "07"
-                                                                      "1E")},
-                           20);
+    imDialog([&](frmSorelin& form) {
+        sobaldBereit(form, [&] {
+            instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00"
+                                                                         "0A00"
+                                                                         "07"
+                                                                         "1E"));
+        });
     });
 
     übertragen();
@@ -150,10 +154,12 @@ TEST_F(SorelinUebertragungTest, AbbruchLaesstDieAlteDateiStehen) {
                 form.abbrechen();
                 return;
             }
-            nacheinanderSenden(*instrument, fall.stücke, 20);
-            QTimer::singleShot(150, &form, [&form, &sendText] {
-                sendText = form.sendText();
-                form.abbrechen();
+            sobaldBereit(form, [&] {
+                nacheinanderSenden(*instrument, fall.stücke, 1);
+                QTimer::singleShot(150, &form, [&form, &sendText] {
+                    sendText = form.sendText();
+                    form.abbrechen();
+                });
             });
         });
 
@@ -174,7 +180,7 @@ TEST_F(SorelinUebertragungTest, GezogenesKabelNachDerStartmarkeWartetBisZumAbbru
     bool gezogen = false;
     bool wartetNoch = false;
     imDialog([&](frmSorelin& form) {
-        QTimer::singleShot(100, &form, [&sim] { sim.tasteDrücken(); });
+        sobaldBereit(form, [&sim] { sim.tasteDrücken(); });
         QObject::connect(&form, &frmSorelin::aktualisiert, &form, [&] {
             if (gezogen || form.sendText() != "Datenübertragung läuft...")
                 return;
@@ -202,7 +208,7 @@ TEST_F(SorelinUebertragungTest, DasBildDesSimulatorsKommtUnverfaelschtUeberDasPs
         {"--type", "102", "--records", "3", "--instrument", "4130", "--baud", "0", "--link", pfad("port")});
     ASSERT_FALSE(sim.gerät().isEmpty());
     modul().portPfad = pfad("port");
-    imDialog([&](frmSorelin& form) { QTimer::singleShot(50, &form, [&sim] { sim.tasteDrücken(); }); });
+    imDialog([&](frmSorelin& form) { sobaldBereit(form, [&sim] { sim.tasteDrücken(); }); });
 
     übertragen();
 
@@ -235,12 +241,12 @@ TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
     m_ui.meldungen.clear();
     instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
-    imDialog([&](frmSorelin&) {
-        nacheinanderSenden(*instrument,
-                           {sorelin::Startmarke + QByteArray::fromHex("00"
-                                                                      "1E0000"
-                                                                      "8001")},
-                           20);
+    imDialog([&](frmSorelin& form) {
+        sobaldBereit(form, [&] {
+            instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00"
+                                                                         "1E0000"
+                                                                         "8001"));
+        });
     });
     übertragen();
     ASSERT_EQ(m_ui.meldungen.size(), 1);
@@ -256,11 +262,10 @@ TEST_F(SorelinUebertragungTest, FensterZeigtFortschrittUndSchliessenBrichtAb) {
     const QByteArray bild = SorelinBild(QByteArray(300, '\x11')).bytes();
     frmSorelin form;
     form.setEinschwingzeit(10);
-    nacheinanderSenden(*instrument, {bild.left(150)}, 30);
     QPointer<QDialog> fenster;
     QLabel* prozent = nullptr;
     QProgressBar* balken = nullptr;
-    QTimer::singleShot(300, &form, [&] {
+    const auto nachsehen = [&] {
         for (QWidget* w : QApplication::topLevelWidgets())
             if (w->objectName() == "frmSorelin")
                 fenster = qobject_cast<QDialog*>(w);
@@ -275,6 +280,10 @@ TEST_F(SorelinUebertragungTest, FensterZeigtFortschrittUndSchliessenBrichtAb) {
         EXPECT_EQ(balken->maximum(), form.fortschrittMax());
         fenster->close();
         EXPECT_FALSE(fenster->isVisible());
+    };
+    sobaldBereit(form, [&] {
+        instrument->Output(bild.left(150));
+        QTimer::singleShot(200, &form, nachsehen);
     });
 
     form.zeigen();

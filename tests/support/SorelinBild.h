@@ -1,8 +1,11 @@
 #pragma once
 
 #include "core/SorelinRahmen.h"
+#include "links/SorelinUebertragung.h"
 
 #include <QByteArray>
+#include <QTimer>
+#include <functional>
 
 namespace vemo::test {
 
@@ -53,5 +56,18 @@ private:
     QByteArray m_zusatzblöcke = QByteArray("\x0A\x02\x00\x01", 4);
     QByteArray m_vorher;
 };
+
+// Runs the action once the transfer listens: its port has settled and the input of that time has
+// been thrown away, which the blinking prompt shows. What an instrument sends before is lost.
+inline void sobaldBereit(frmSorelin& form, std::function<void()> aktion) {
+    auto* uhr = new QTimer(&form);
+    QObject::connect(uhr, &QTimer::timeout, &form, [uhr, &form, aktion] {
+        if (!form.blinkt())
+            return;
+        uhr->stop();
+        aktion();
+    });
+    uhr->start(2);
+}
 
 } // namespace vemo::test
