@@ -3,30 +3,14 @@
 #include "core/Arbeitsdateien.h"
 #include "core/ModulState.h"
 #include "core/SorelinRahmen.h"
+#include "links/Warten.h"
 #include "platform/Ui.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
 
 namespace vemo {
 namespace {
-
-constexpr int Ruhepause = 2; // ms a read that found nothing rests, so as not to burn a core
-
-void ruhen() {
-    QThread::msleep(Ruhepause);
-}
-
-void wartenMitEreignissen(int ms) {
-    QElapsedTimer uhr;
-    uhr.start();
-    while (uhr.elapsed() < ms) {
-        ui().DoEvents();
-        ruhen();
-    }
-}
 
 // The port as the user gave it: its number, or a device path named directly.
 QString portText() {

@@ -3,6 +3,7 @@
 #include "store/Recordset.h"
 
 #include <QString>
+#include <optional>
 
 namespace vemo {
 
@@ -16,6 +17,8 @@ public:
     // A new block of the read-in; its MessungID.
     qint32 neuerBlock(qint32 geräteID, const QString& verteilerNr, const QString& stromkreisNr);
     void neuerWert(qint32 messungID, const QString& funktion, const QString& wert, const QString& einheit);
+    // The MessungID of the read-in table's last row when that row has the circuit number.
+    std::optional<qint32> letzterBlockMit(const QString& stromkreisNr);
 
 private:
     Recordset m_daten;

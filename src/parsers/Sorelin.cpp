@@ -83,8 +83,6 @@ private:
                                 qint32 messungID);
     void listenzeile(qint32 messungID, const QString& funktion, const QString& liste,
                      const Blockzeilen& block, const QString& vorsatz = {});
-    void wertSchreiben(qint32 messungID, const QString& funktion, const QString& wert,
-                       const QString& einheit);
 
     QByteArray m_bild;
     int m_typ = 0;
@@ -92,8 +90,7 @@ private:
     qsizetype m_datenanfang = 0;
     qsizetype m_datenende = 0;
     std::optional<SorelinTreiber> m_treiber;
-    Recordset m_daten;
-    Recordset m_messDaten;
+    std::optional<Einleseblöcke> m_blöcke;
 };
 
 void SorelinLauf::lesen() {
@@ -185,8 +182,7 @@ qint32 SorelinLauf::geräteDatenAnlegen() const {
 
 // The data block is a run of measurement blocks; a start block opens the next circuit.
 void SorelinLauf::messungenLesen(qint32 geräteID) {
-    m_daten = db().OpenRecordset("0100_EinleseDaten");
-    m_messDaten = db().OpenRecordset("0100_EinleseMessDaten");
+    m_blöcke.emplace();
     int zähler = 1;
     qint32 messungID = stromkreisZeile(geräteID, zähler);
     Blockende block{m_datenanfang, blockartBei(m_bild, m_datenanfang, m_datenende, *m_treiber)};
@@ -204,23 +200,9 @@ void SorelinLauf::messungenLesen(qint32 geräteID) {
 // A circuit whose number the last read-in row already has adds no row: its values join that row.
 qint32 SorelinLauf::stromkreisZeile(qint32 geräteID, int zähler) {
     const QString nummer = vierstellig(QString::number(zähler));
-    if (!(m_daten.Bof() && m_daten.Eof())) {
-        m_daten.MoveLast();
-        if (m_daten.Text("StromkreisNr") == nummer)
-            return qint32(ganzzahl(m_daten.Field("MessungID")));
-    }
-    m_daten.AddNew();
-    const qint32 messungID = NeueID("", m_daten.Name());
-    m_daten.setField("MessungID", messungID);
-    m_daten.setField("GeräteID", geräteID);
-    m_daten.setField("AnlageNr", QString());
-    m_daten.setField("VerteilerNr", QString("0001"));
-    m_daten.setField("StromkreisNr", nummer);
-    m_daten.setField("Uhrzeit", QString());
-    m_daten.setField("Datum", QString());
-    m_daten.Update();
-    m_daten.setBookmark(m_daten.LastModified());
-    return messungID;
+    if (const auto letzter = m_blöcke->letzterBlockMit(nummer))
+        return *letzter;
+    return m_blöcke->neuerBlock(geräteID, "0001", nummer);
 }
 
 // The rows of one measurement block, value by value, then what its settings add.
@@ -253,14 +235,15 @@ QString SorelinLauf::wertzeilen(qint32 messungID, const Treiberzeile& zeile, con
                                 const QString& wert) {
     const QString einstellung = zeile.spalte(2);
     if (einstellung.isEmpty()) {
-        wertSchreiben(messungID, (g.vorname + " " + g.name).trimmed(), wert, g.einheit);
+        m_blöcke->neuerWert(messungID, (g.vorname + " " + g.name).trimmed(), wert, g.einheit);
         return wert;
     }
     int start = 1;
     QString einheit;
     const QString zahl = WertText(GetZahl(einstellung, start, einheit));
-    wertSchreiben(messungID, (g.vorname + " " + zeile.spalte(10) + " " + einheit).trimmed(), zahl, einheit);
-    wertSchreiben(messungID, (g.vorname + " " + g.name + " " + g.einheit).trimmed(), wert, g.einheit);
+    m_blöcke->neuerWert(messungID, (g.vorname + " " + zeile.spalte(10) + " " + einheit).trimmed(), zahl,
+                        einheit);
+    m_blöcke->neuerWert(messungID, (g.vorname + " " + g.name + " " + g.einheit).trimmed(), wert, g.einheit);
     return zahl;
 }
 
@@ -280,7 +263,7 @@ void SorelinLauf::einstellungenSchreiben(int id, const Treiberzeile& zeile, cons
             QString einheit;
             const QString zahl = GetZahl(text, start, einheit);
             QString funktion = block.funktion;
-            wertSchreiben(messungID, GetFunktion(text, funktion, einheit), WertText(zahl), einheit);
+            m_blöcke->neuerWert(messungID, GetFunktion(text, funktion, einheit), WertText(zahl), einheit);
         }
         if (block.ersterWert == Nennstrom500)
             listenzeile(messungID, "FI Faktor", zeile.spalte(5), block);
@@ -290,17 +273,7 @@ void SorelinLauf::einstellungenSchreiben(int id, const Treiberzeile& zeile, cons
 void SorelinLauf::listenzeile(qint32 messungID, const QString& funktion, const QString& liste,
                               const Blockzeilen& block, const QString& vorsatz) {
     if (const auto text = m_treiber->ausListe(liste, block.letzteZahl))
-        wertSchreiben(messungID, funktion, vorsatz + *text, {});
-}
-
-void SorelinLauf::wertSchreiben(qint32 messungID, const QString& funktion, const QString& wert,
-                                const QString& einheit) {
-    m_messDaten.AddNew();
-    m_messDaten.setField("MessungID", messungID);
-    m_messDaten.setField("Funktion", funktion);
-    m_messDaten.setField("wert", wert);
-    m_messDaten.setField("Einheit", einheit);
-    m_messDaten.Update();
+        m_blöcke->neuerWert(messungID, funktion, vorsatz + *text, {});
 }
 
 } // namespace
