@@ -43,8 +43,8 @@ quint32 wertebereich(const Wertgruppe& g) {
 
 class Bildbau {
 public:
-    Bildbau(const SorelinTreiber& treiber, int stromkreise)
-        : m_treiber(treiber), m_zufall(quint32(stromkreise) * 7919u + 17u) {}
+    Bildbau(const SorelinTreiber& treiber, int instrument, int stromkreise)
+        : m_treiber(treiber), m_zufall(quint32(stromkreise) * 7919u + quint32(instrument)) {}
 
     QByteArray stromkreis(int nummer);
 
@@ -57,6 +57,7 @@ private:
     QRandomGenerator m_zufall;
     int m_stromkreis = 0;
     int m_werte = 0;
+    double m_vorheriger = 0; // the value before, of the same block
 };
 
 QByteArray Bildbau::stromkreis(int nummer) {
@@ -77,10 +78,12 @@ QByteArray Bildbau::messblock(int id, const Treiberzeile& zeile) {
     if (vorDenWerten)
         block += char(id);
     const int anzahl = int(zahlformat::val(zeile.spalte(7)));
+    m_vorheriger = 0;
     for (int k = 0; k < anzahl; ++k) {
         const Wertgruppe g = Wertgruppe::aus(zeile, Wertgruppe::ErsteSpalte + k * Wertgruppe::Breite);
         const bool überlauf = !g.überlauf.isEmpty() && ++m_werte % JederÜberlauf == 0;
-        quint32 ganz = kodieren(g, plausibel(g), überlauf);
+        m_vorheriger = plausibel(g);
+        quint32 ganz = kodieren(g, m_vorheriger, überlauf);
         if (k == 0 && !vorDenWerten)
             ganz |= quint32(id) << (8 * (g.größe - 1));
         block += hochZuerst(ganz, g.größe);
@@ -90,7 +93,10 @@ QByteArray Bildbau::messblock(int id, const Treiberzeile& zeile) {
     return block;
 }
 
+// A short-circuit current follows from the loop impedance before it and 230 V.
 double Bildbau::plausibel(const Wertgruppe& g) {
+    if (g.name == "Ik" && m_vorheriger > 0)
+        return std::round(230 / m_vorheriger);
     if (g.einheit.isEmpty())
         return m_zufall.bounded(256); // a settings byte
     for (const Vorgabe& v : vorgaben)
@@ -154,7 +160,7 @@ Wahl& wahl() {
 QByteArray sorelinSpeicher(const Datenbank& db, int instrument, int stromkreise,
                            const QString& seriennummer) {
     const SorelinTreiber treiber = SorelinTreiber::öffnen(db, instrument);
-    Bildbau bau(treiber, stromkreise);
+    Bildbau bau(treiber, instrument, stromkreise);
     const auto start = treiber.startblock();
     QByteArray daten;
     int gebaut = 0;
