@@ -37,6 +37,12 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Ihr Treiber ist nicht aktuell', 'Your driver is out of date'),
   ('Version', 'Version');
 
+-- What the Sorelin block transfer and its parser tell of an image they cannot read.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Startblock Error', 'Start block error'),
+  ('Blockkennung nicht bekannt', 'Unknown block identifier'),
+  ('MessBlockKennung nicht bekannt', 'Unknown measurement block identifier');
+
 -- Instrument names given to new instrument records.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('0100-Corvex', '0100-Corvex'),

@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "links/Form2.h"
+#include "links/SorelinUebertragung.h"
 
 #include <QSocketNotifier>
 #include <csignal>
@@ -33,6 +34,8 @@ Empfangskonsole::Empfangskonsole(bool immerJa) : KonsolenUi(immerJa) {
         m_ctrlC = true;
         if (m_form)
             m_form->abbrechen();
+        else if (m_sorelin)
+            m_sorelin->abbrechen();
         else
             modul().Abbruchmerker = 1; // the run ends as aborted, and a wait still to come at once
     });
@@ -78,6 +81,23 @@ void Empfangskonsole::zeigeNichtModal(DialogController& dialog) {
     std::fprintf(stderr, "%s\n", form->titel().toLocal8Bit().constData());
     QObject::connect(form, &DialogController::aktualisiert, form, [this] { hinweisZeigen(); });
     hinweisZeigen();
+}
+
+// The block transfer: its title, and its prompt whenever that changes.
+int Empfangskonsole::zeigeModal(DialogController& dialog) {
+    if (auto* form = qobject_cast<frmSorelin*>(&dialog)) {
+        m_sorelin = form;
+        std::fprintf(stderr, "%s\n", form->titel().toLocal8Bit().constData());
+        const auto zeigen = [this] {
+            if (!m_sorelin || m_sorelin->sendText() == m_gezeigt)
+                return;
+            m_gezeigt = m_sorelin->sendText();
+            std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+        };
+        QObject::connect(form, &DialogController::aktualisiert, form, zeigen);
+        zeigen();
+    }
+    return KonsolenUi::zeigeModal(dialog);
 }
 
 // The hint once each time it changes; the blinking of the window has no meaning here.

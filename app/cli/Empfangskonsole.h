@@ -8,7 +8,8 @@ class QSocketNotifier;
 
 namespace vemo {
 class Form2;
-}
+class frmSorelin;
+} // namespace vemo
 
 // The console of a reception from the instrument: Ctrl-C is the dialog's abort button and ends the
 // transfer as that button does, never by killing the program mid-write; pressed before the dialog
@@ -20,11 +21,13 @@ public:
     ~Empfangskonsole() override;
 
     void zeigeNichtModal(vemo::DialogController& dialog) override;
+    int zeigeModal(vemo::DialogController& dialog) override;
 
 private:
     void hinweisZeigen();
 
     QPointer<vemo::Form2> m_form;
+    QPointer<vemo::frmSorelin> m_sorelin;
     QSocketNotifier* m_abbruch = nullptr;
     QSocketNotifier* m_eingabe = nullptr;
     QString m_gezeigt;

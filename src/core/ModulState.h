@@ -85,6 +85,8 @@ struct ModulState {
     Portpuffer portpuffer;
     std::shared_ptr<MyComm> gemeinsamerMyComm;
     bool multitesterGefunden = false;
+    // The serial number of the last Sorelin image read; the read-in rows do not carry it.
+    QString sorelinSeriennummer;
 
     Ui* ui = nullptr;
     SettingsStore* settings = nullptr;

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace vemo {
 namespace {
@@ -84,11 +85,13 @@ void dateiKopieren(const QString& von, const QString& nach) {
     QFile quelle(von);
     if (!quelle.open(QIODevice::ReadOnly))
         throw fehler::mit(fehler::PfadZugriff, von);
-    QFile ziel(nach);
-    if (!ziel.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    // The copy replaces the destination at once: a second workplace reading the same working file
+    // beside a shared database meanwhile sees the whole old file or the whole new one.
+    QSaveFile ziel(nach);
+    if (!ziel.open(QIODevice::WriteOnly))
         throw fehler::mit(fehler::PfadZugriff, nach);
     const QByteArray inhalt = quelle.readAll();
-    if (ziel.write(inhalt) != inhalt.size() || !ziel.flush())
+    if (ziel.write(inhalt) != inhalt.size() || !ziel.commit())
         throw fehler::mit(fehler::PfadZugriff, nach);
 }
 

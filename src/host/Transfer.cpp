@@ -4,6 +4,7 @@
 #include "core/ModulState.h"
 #include "host/Dateinummern.h"
 #include "links/DumpEmpfang.h"
+#include "links/SorelinUebertragung.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Ui.h"
 #include "store/Variant.h"
@@ -22,11 +23,18 @@ Ausgang nochNichtVerfügbar() {
     return Ausgang::Verlassen;
 }
 
+// The block transfer of the Sorelin instruments: its dialog leaves the image and Abbruchmerker.
+Ausgang sorelinÜbertragung() {
+    frmSorelin form;
+    form.zeigen();
+    return Ausgang::Weiter;
+}
+
 // The link of each selector that has a dialog of its own; every other selector is received as a
 // printed dump.
 const std::map<QString, std::function<Ausgang()>>& verbindungen() {
     static const std::map<QString, std::function<Ausgang()>> tabelle{
-        {selektor::Kontalex, nochNichtVerfügbar},   {selektor::Sorelin, nochNichtVerfügbar},
+        {selektor::Kontalex, nochNichtVerfügbar},   {selektor::Sorelin, sorelinÜbertragung},
         {selektor::Zemak, nochNichtVerfügbar},      {selektor::Zemak3710B, nochNichtVerfügbar},
         {selektor::Zemak3720, nochNichtVerfügbar},  {selektor::Zemak3740, nochNichtVerfügbar},
         {selektor::Quentavoir, nochNichtVerfügbar},

@@ -7,13 +7,12 @@
 #include "core/ModulState.h"
 #include "links/Form2.h"
 #include "links/MyComm.h"
+#include "links/Warten.h"
 #include "platform/Codepage.h"
 #include "platform/CommPort.h"
 #include "platform/Ui.h"
 
-#include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
 #include <optional>
 
 namespace vemo {
@@ -23,21 +22,7 @@ const QString Leitungseinstellung = "2400,N,8,1";
 // The one selector that runs the line without handshake.
 const QString OhneHandshake = "Multitester = 0100-Varitron";
 constexpr int Einschwingzeit = 200; // ms the port settles before its input is thrown away
-constexpr int Ruhepause = 2;        // ms a poll that found nothing rests, so as not to burn a core
 constexpr int LeerzeilenAmEnde = 3;
-
-void ruhen() {
-    QThread::msleep(Ruhepause);
-}
-
-void wartenMitEreignissen(int ms) {
-    QElapsedTimer uhr;
-    uhr.start();
-    while (uhr.elapsed() < ms) {
-        ui().DoEvents();
-        ruhen();
-    }
-}
 
 std::unique_ptr<CommPort> portÖffnen() {
     auto port = neuerCommPort();

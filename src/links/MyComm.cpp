@@ -103,6 +103,7 @@ qint32 MyComm::OpenCom(QString& sCom, qint16 device) {
     const Geräteprofil& p = profil(m_nDevice);
     m_port = neuerCommPort();
     m_hCom = UngültigesHandle;
+    m_öffnungsfehler.reset();
     try {
         m_port->setGerät(sCom);
         m_port->setSettings(QString("%1,%2,8,1").arg(p.baud).arg(QChar(p.parität)));
@@ -113,8 +114,9 @@ qint32 MyComm::OpenCom(QString& sCom, qint16 device) {
             m_port->setRTSEnable(*p.rts);
         m_port->setPortOpen(true);
         m_hCom = nächstesHandle();
-    } catch (const Fehler&) {
+    } catch (const Fehler& f) {
         // Failure shows only in the handle; later calls on the port fail without effect.
+        m_öffnungsfehler = f;
         m_port.reset();
     }
     m_fIsOpen = true;

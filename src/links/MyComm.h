@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/Fehler.h"
+
 #include <QByteArray>
 #include <QString>
 #include <memory>
+#include <optional>
 
 namespace vemo {
 
@@ -55,6 +58,8 @@ public:
     qint32 lastResult() const { return m_lastResult; }
     // The port behind the handle, or none.
     const CommPort* port() const { return m_port.get(); }
+    // Why the last OpenCom gave the invalid handle, for a caller that tells the user.
+    const std::optional<Fehler>& öffnungsfehler() const { return m_öffnungsfehler; }
 
     // Shared by all instances: the bytes ReceiveBytes collected, and how many places there are.
     static QByteArray receivedBytes();
@@ -71,6 +76,7 @@ private:
     qint32 m_nReceived = 0;
     QString m_sReceived;
     qint32 m_lastResult = 0;
+    std::optional<Fehler> m_öffnungsfehler;
 };
 
 // The one instance the links share for Clear_fAbortOnError, made on first use.

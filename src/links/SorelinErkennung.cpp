@@ -1,5 +1,6 @@
 #include "links/SorelinErkennung.h"
 
+#include "core/SorelinRahmen.h"
 #include "platform/Fehler.h"
 
 #include <QFile>
@@ -13,8 +14,7 @@ bool CheckSorelinTyp(const QString& pfad) {
         throw fehler::mit(fehler::DateiNichtGefunden, pfad);
     if (!f.open(QIODevice::ReadOnly))
         throw fehler::mit(fehler::PfadZugriff, pfad);
-    static const QByteArray startmarke("\xFF\xD5\xD5\xD5", 4);
-    return f.readAll().contains(startmarke);
+    return f.readAll().contains(sorelin::Startmarke);
 }
 
 } // namespace vemo

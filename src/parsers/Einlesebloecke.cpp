@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "core/Schluesselvergabe.h"
+#include "store/Variant.h"
 
 namespace vemo {
 
@@ -39,6 +40,15 @@ void Einleseblöcke::neuerWert(qint32 messungID, const QVariant& funktion, const
     if (einheit.isValid())
         m_messDaten.setField("Einheit", einheit);
     m_messDaten.Update();
+}
+
+std::optional<qint32> Einleseblöcke::letzterBlockMit(const QString& stromkreisNr) {
+    if (m_daten.Bof() && m_daten.Eof())
+        return std::nullopt;
+    m_daten.MoveLast();
+    if (m_daten.Text("StromkreisNr") != stromkreisNr)
+        return std::nullopt;
+    return qint32(ganzzahl(m_daten.Field("MessungID")));
 }
 
 QString vierstellig(const QString& nummer) {

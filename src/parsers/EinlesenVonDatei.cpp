@@ -3,6 +3,7 @@
 #include "core/ModulState.h"
 #include "parsers/Corvex.h"
 #include "parsers/MultitesterTabelle.h"
+#include "parsers/Sorelin.h"
 #include "parsers/Zemak.h"
 #include "platform/Ui.h"
 
@@ -23,7 +24,7 @@ void nochNichtMöglich() {
 const QHash<QString, Parser>& parserDerSelektoren() {
     static const QHash<QString, Parser> tabelle{
         {"Multitester = Kontalex", nochNichtMöglich},
-        {"Multitester = Sorelin", nochNichtMöglich},
+        {"Multitester = Sorelin", Sorelin},
         {"Multitester = ZEMAK", ZEMAK},
         {"Multitester = ZEMAK 3710B", ZEMAK3710B},
         {"Multitester = ZEMAK 3720", ZEMAK3720},

@@ -2,6 +2,8 @@
 // without the hardware.
 #include "Instrumente.h"
 #include "PtyLeitung.h"
+#include "SorelinSpeicher.h"
+#include "platform/Fehler.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -58,7 +60,10 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
                                   "2400");
     const QCommandLineOption pause("pause", "Pause before each closing empty line (default 250).", "MS",
                                    "250");
-    p.addOptions({typ, speicher, datensätze, link, drücken, baud, pause});
+    const QCommandLineOption instrument(
+        "instrument", "Sorelin instrument type whose driver table builds the memory.", "TYPE");
+    const QCommandLineOption treiber("db", "Database whose Sorelin driver tables to use.", "DB");
+    p.addOptions({typ, speicher, datensätze, link, drücken, baud, pause, instrument, treiber});
     p.process(argumente);
 
     bool ok = false;
@@ -70,6 +75,13 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
         return QString("type %1 is not simulated").arg(p.value(typ));
     if (p.isSet(speicher) && p.isSet(datensätze))
         return "--memory and --records exclude each other";
+    if (p.isSet(instrument) || p.isSet(treiber)) {
+        const int nummer = p.value(instrument).toInt(&ok);
+        if (code != 102 || (p.isSet(instrument) && !ok))
+            return "--instrument TYPE and --db DB are for --type 102";
+        vemo::sim::sorelinWählen(p.isSet(instrument) ? nummer : vemo::sim::sorelin::StandardInstrument,
+                                 p.value(treiber));
+    }
     if (p.isSet(speicher)) {
         QFile datei(p.value(speicher));
         if (!datei.open(QIODevice::ReadOnly))
@@ -79,7 +91,11 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
         const int n = p.value(datensätze).toInt(&ok);
         if (!ok || n < 0)
             return "--records needs a count";
-        o.speicher = o.typ->speicherErzeugen(n);
+        try {
+            o.speicher = o.typ->speicherErzeugen(n);
+        } catch (const vemo::Fehler& f) {
+            return "no memory: " + f.meldung();
+        }
     }
     o.takt.baud = p.value(baud).toInt(&ok);
     if (!ok || o.takt.baud < 0)

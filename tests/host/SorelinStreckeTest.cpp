@@ -1,0 +1,189 @@
+#include "links/LinkHilfen.h"
+#include "support/SorelinBild.h"
+#include "support/Testumgebung.h"
+
+#include "PortLeitung.h"
+#include "SorelinGeraet.h"
+#include "SorelinSpeicher.h"
+#include "core/Arbeitsdateien.h"
+#include "grid/EinleseDatenController.h"
+#include "grid/GridBefehle.h"
+#include "host/Modul15a.h"
+#include "links/SorelinUebertragung.h"
+#include "store/Recordset.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QPointer>
+#include <QProcess>
+#include <QTimer>
+
+using namespace vemo;
+
+namespace {
+
+QByteArray lesen(const QString& pfad) {
+    QFile f(pfad);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// The Sorelin instruments from the send key to the inspection record, through the component as
+// the host drives it.
+class SorelinStreckeTest : public test::Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        neueDatenbank(true);
+        QDir(m_dir.path()).mkpath("sicherung");
+        m_komponente = std::make_unique<vemo0100Modul15a>(m_ui, m_settings);
+        m_komponente->setVemotrixDBName(m_dbPfad);
+        m_komponente->setBackupVerzeichnis(pfad("sicherung"));
+        m_komponente->setCommPort(1);
+        m_komponente->setPrüfgeräteTypID(102);
+    }
+    void TearDown() override {
+        EXPECT_FALSE(m_wachhund) << "the transfer did not end by itself";
+        m_komponente.reset();
+        Testumgebung::TearDown();
+    }
+
+    // Presses the instrument's key once the dialog shows; a transfer still open after five
+    // seconds is aborted and the test fails instead of hanging.
+    void tasteImDialog(const std::function<void()>& taste) {
+        m_ui.beiDialog = [this, taste](DialogController& d) {
+            QPointer<frmSorelin> form = qobject_cast<frmSorelin*>(&d);
+            ASSERT_TRUE(form);
+            form->setEinschwingzeit(10);
+            test::sobaldBereit(*form, taste);
+            QTimer::singleShot(5000, form, [this, form] {
+                m_wachhund = true;
+                form->abbrechen();
+            });
+        };
+    }
+    // The values of the read-in row of a circuit, by function name.
+    QMap<QString, QString> werteDesKreises(const QString& stromkreisNr) const {
+        QMap<QString, QString> werte;
+        Recordset m = db().OpenRecordset("SELECT m.Funktion, m.wert FROM 0100_EinleseMessDaten m JOIN "
+                                         "0100_EinleseDaten d ON d.MessungID = "
+                                         "m.MessungID WHERE d.StromkreisNr = '" +
+                                         stromkreisNr + "'");
+        for (; !m.Eof(); m.MoveNext())
+            werte.insert(m.Text("Funktion"), m.Text("wert"));
+        return werte;
+    }
+    QString messung(const QString& spalte, const QString& stromkreis) const {
+        return wert("SELECT m." + spalte +
+                    " FROM 0100_Messung m JOIN 0100_Stromkreis s ON s.StromkreisID = m.StromkreisID "
+                    "JOIN 0100_Verteiler v ON v.VerteilerID = s.VerteilerID WHERE v.PrüfungID >= 10000 AND "
+                    "s.Code = '" +
+                    stromkreis + "'");
+    }
+    QString grenzwert(const QString& spalte, const QString& stromkreis) const {
+        return wert(
+            "SELECT g.[" + spalte +
+            "] FROM 0100_Grenzwert g JOIN 0100_Messung m ON m.MessID = g.MessID JOIN 0100_Stromkreis s "
+            "ON s.StromkreisID = m.StromkreisID JOIN 0100_Verteiler v ON v.VerteilerID = s.VerteilerID "
+            "WHERE v.PrüfungID >= 10000 AND s.Code = '" +
+            stromkreis + "'");
+    }
+
+    std::unique_ptr<vemo0100Modul15a> m_komponente;
+    bool m_wachhund = false;
+};
+
+TEST_F(SorelinStreckeTest, BeideGeraetetypenVomSimulatorBisInsPruefprotokoll) {
+    const struct {
+        int typ;
+        QString name;
+        QString nennstrom;   // the function name of the rated current
+        QString auslösezeit; // of the trip time
+        QString grenzeUb;    // of the touch voltage limit
+    } typen[] = {
+        {4120, "SORELIN PM 12", "FI E, Idn", "FI t", "Ub max"},
+        {4130, "SORELIN PM 20", "FI IdN", "FI tmess ms", "FI UL"},
+    };
+    int nummer = 0;
+    for (const auto& t : typen) {
+        SCOPED_TRACE(t.typ);
+        m_ui.meldungen.clear();
+        auto leitung = test::speicherleitungEinstecken(32);
+        const QByteArray bild = sim::sorelinSpeicher(db(), t.typ, 3);
+        sim::SorelinGerät gerät(bild, {0, 0});
+        sim::PortLeitung kabel(*leitung, gerät);
+        tasteImDialog([&gerät] { gerät.tasteGedrückt(); });
+
+        m_komponente->DatenEmpfangen();
+
+        ASSERT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        EXPECT_EQ(lesen(arbeitsdatei(datei::Rs232Sep)), bild);
+        const QString kopie = pfad(QString("sicherung/%1.ser").arg(++nummer, 8, 10, QChar('0')));
+        EXPECT_EQ(lesen(kopie), bild) << "the numbered copy of the image";
+        EXPECT_EQ(wert("SELECT Group_Concat(StromkreisNr, ' ') FROM 0100_EinleseDaten"), "0001 0002 0003");
+        EXPECT_EQ(wert("SELECT PrüfgerätName FROM 0100_EinleseGeräteDaten"), t.name);
+
+        QString json;
+        QTextStream aus(&json);
+        ASSERT_EQ(gridBefehl(true, aus), 0);
+        EXPECT_EQ(json.count("\"nr\""), 3);
+        ASSERT_EQ(zuordnenBefehl("1-3", "1", "1"), 0); // Bäckerei Sommer
+        ASSERT_EQ(zuordnenBefehl("1-3", "2", "2"), 0); // her plant 002 Verkaufsraum
+        const QMap<QString, QString> gelesen = werteDesKreises("0002");
+        ASSERT_TRUE(gelesen.contains("Riso R MOhm") && gelesen.contains(t.nennstrom))
+            << gelesen.keys().join(", ").toStdString();
+
+        EinleseDatenController form;
+        form.übernehmenKlick();
+
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+        EXPECT_EQ(messung("VISO", "0002"), "500");
+        EXPECT_EQ(messung("RISO", "0002"), gelesen["Riso R MOhm"]);
+        EXPECT_EQ(messung("LOW", "0002"), gelesen["LOW Ohm"]);
+        EXPECT_EQ(messung("LOOPRS", "0002"), gelesen["Zs"]);
+        EXPECT_EQ(messung("LoopIKRS", "0002"), gelesen["Zs Ik"]);
+        EXPECT_EQ(messung("FIIDN", "0002"), gelesen[t.nennstrom]);
+        EXPECT_EQ(messung("FIT", "0002"), gelesen[t.auslösezeit]);
+        EXPECT_EQ(grenzwert("RISO", "0002"), ">1") << "the limit of the test voltage 500 V";
+        EXPECT_EQ(grenzwert("FIUB", "0002"), "<" + gelesen[t.grenzeUb]);
+        EXPECT_FALSE(grenzwert("FIRE", "0002").isEmpty());
+        sql("DELETE FROM \"0100_Messung\"; DELETE FROM \"0100_Grenzwert\"; DELETE FROM \"0100_Stromkreis\";");
+    }
+}
+
+// What a user does to read an instrument type that came after the build: a driver table written
+// with the sqlite3 program into the host's database.
+TEST_F(SorelinStreckeTest, EineVonHandAngelegteTreibertabelleGiltBeimNaechstenLesen) {
+    QProcess sqlite3;
+    sqlite3.start("sqlite3", {m_dbPfad});
+    sqlite3.write(
+        "CREATE TABLE \"4711Sorelin\" (\"1\" TEXT, \"2\" TEXT, \"3\" TEXT, \"7\" TEXT, \"8\" TEXT,"
+        " \"9\" TEXT, \"10\" TEXT, \"11\" TEXT, \"12\" TEXT, \"13\" TEXT, \"14\" TEXT, \"15\" TEXT);\n"
+        "INSERT INTO \"4711Sorelin\" (\"1\", \"2\", \"3\") VALUES ('Version', '3.0', ''),"
+        " ('NameDE', 'Eigenbau 4711', ''), ('StartBlock', '250', ''), ('Zehntel', '0', '10');\n"
+        "INSERT INTO \"4711Sorelin\" VALUES"
+        " ('129DE', '1000 V', '', '1', '2', '', 'R', 'MOhm', 'Riso', '', '', ''),"
+        " ('150DE', '', '', '1', '1', '', 'Ohm', 'Ohm', 'LOW', 'Zehntel', '', '1');\n");
+    sqlite3.closeWriteChannel();
+    ASSERT_TRUE(sqlite3.waitForFinished(5000));
+    ASSERT_EQ(sqlite3.exitCode(), 0) << sqlite3.readAllStandardError().toStdString();
+
+    test::Simulator sim({"--type", "102", "--records", "2", "--instrument", "4711", "--db", m_dbPfad,
+                         "--baud", "0", "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty()) << sim.prozess().readAllStandardError().toStdString();
+    modul().portPfad = pfad("port");
+    tasteImDialog([&sim] { sim.tasteDrücken(); });
+
+    m_komponente->DatenEmpfangen();
+
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(wert("SELECT PrüfgerätName FROM 0100_EinleseGeräteDaten"), "Eigenbau 4711");
+    EXPECT_EQ(wert("SELECT Group_Concat(StromkreisNr, ' ') FROM 0100_EinleseDaten"), "0001 0002");
+    const QMap<QString, QString> werte = werteDesKreises("0002");
+    EXPECT_EQ(werte.value("Riso R V"), "1000");
+    EXPECT_TRUE(werte.contains("Riso R MOhm"));
+    EXPECT_TRUE(werte.contains("LOW Ohm"));
+}
+
+} // namespace

@@ -1,0 +1,300 @@
+#include "LinkHilfen.h"
+#include "support/SorelinBild.h"
+#include "support/Testumgebung.h"
+
+#include "PortLeitung.h"
+#include "SorelinGeraet.h"
+#include "SorelinSpeicher.h"
+#include "ansichten/Ansichten.h"
+#include "core/Arbeitsdateien.h"
+#include "links/SorelinUebertragung.h"
+#include "platform/QtUi.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace vemo::test {
+namespace {
+
+const QByteArray AlteDatei = "das Bild von gestern";
+
+class SorelinUebertragungTest : public Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        modul().CommPort = 1;
+        QFile f(pfad("RS232.SEP"));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(AlteDatei);
+    }
+    void TearDown() override {
+        EXPECT_FALSE(m_wachhund) << "the transfer did not end by itself";
+        Testumgebung::TearDown();
+    }
+    QByteArray datei() const {
+        QFile f(arbeitsdatei(datei::Rs232Sep));
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
+    }
+    // Calls the action once the dialog is shown. A transfer still running after five seconds is
+    // aborted, and the test fails instead of hanging.
+    void imDialog(std::function<void(frmSorelin&)> aktion) {
+        m_ui.beiDialog = [this, aktion](DialogController& d) {
+            auto* form = qobject_cast<frmSorelin*>(&d);
+            ASSERT_NE(form, nullptr);
+            aktion(*form);
+            QTimer::singleShot(5000, form, [this, form] {
+                m_wachhund = true;
+                form->abbrechen();
+            });
+        };
+    }
+    // The dialog as the driver shows it, with the port's settling shortened.
+    void übertragen() {
+        modul().Abbruchmerker = 0;
+        frmSorelin form;
+        form.setEinschwingzeit(10);
+        form.zeigen();
+        EXPECT_FALSE(form.istOffen());
+        m_puffer = form.empfangspuffer();
+    }
+    static void nacheinanderSenden(CommPort& ende, const QList<QByteArray>& stücke, int abstand) {
+        for (qsizetype i = 0; i < stücke.size(); ++i)
+            QTimer::singleShot(int(abstand * (i + 1)), &ende, [&ende, s = stücke[i]] { ende.Output(s); });
+    }
+
+    QByteArray m_puffer;
+    bool m_wachhund = false;
+};
+
+TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDieDatei) {
+    // Bytes before the mark, the mark split over two reads, a start block of length 0 and two
+    // blocks of kind 10 before the data block.
+    auto instrument = speicherleitungEinstecken(0);
+    instrument->setPortOpen(true);
+    const QByteArray daten = QByteArray::fromHex("8180F5820023");
+    const QByteArray rest = QByteArray::fromHex("D5D5"
+                                                "00"
+                                                "0A0111"
+                                                "0A00") +
+                            SorelinBild(daten).datenblock() + sorelin::Endmarke;
+    QList<int> prozente;
+    bool blinktUnterwegs = true;
+    QByteArray dateiUnterwegs;
+    imDialog([&](frmSorelin& form) {
+        QObject::connect(&form, &frmSorelin::aktualisiert, &form, [&] {
+            if (form.prozentText().isEmpty())
+                return;
+            if (prozente.isEmpty()) {
+                blinktUnterwegs = form.blinkt();
+                dateiUnterwegs = datei();
+            }
+            prozente << form.prozentText().chopped(1).trimmed().toInt();
+        });
+        sobaldBereit(form, [&] {
+            nacheinanderSenden(*instrument, {"\x01\x02\xFF\xD5", rest.left(8), rest.mid(8, 5), rest.mid(13)},
+                               30);
+        });
+    });
+
+    übertragen();
+
+    const QByteArray alles = "\x01\x02\xFF\xD5" + rest;
+    EXPECT_EQ(datei(), alles);
+    EXPECT_EQ(m_puffer, alles);
+    EXPECT_EQ(dateiUnterwegs, AlteDatei) << "the old file stays until the end mark";
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_FALSE(blinktUnterwegs) << "the prompt stops blinking with the start mark";
+    ASSERT_FALSE(prozente.isEmpty());
+    EXPECT_TRUE(std::is_sorted(prozente.begin(), prozente.end()));
+    EXPECT_GE(prozente.last(), 90);
+    EXPECT_LE(prozente.last(), 100);
+}
+
+TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
+    auto instrument = speicherleitungEinstecken(0);
+    instrument->setPortOpen(true);
+    imDialog([&](frmSorelin& form) {
+        sobaldBereit(form, [&] {
+            instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00"
+                                                                         "0A00"
+                                                                         "07"
+                                                                         "1E"));
+        });
+    });
+
+    übertragen();
+
+    EXPECT_EQ(m_ui.texte(), QStringList{"Blockkennung nicht bekannt"});
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_EQ(datei(), AlteDatei);
+}
+
+TEST_F(SorelinUebertragungTest, AbbruchLaesstDieAlteDateiStehen) {
+    struct Fall {
+        const char* name;
+        QList<QByteArray> stücke;
+    };
+    // Aborted at once, before anything came, and after the data block's head, before its end.
+    const QByteArray bild = SorelinBild(QByteArray(200, '\x11')).bytes();
+    for (const Fall& fall : {Fall{"at once", {}}, Fall{"after the head", {bild.left(bild.size() - 50)}}}) {
+        SCOPED_TRACE(fall.name);
+        auto instrument = speicherleitungEinstecken(0);
+        instrument->setPortOpen(true);
+        QString sendText;
+        imDialog([&](frmSorelin& form) {
+            if (fall.stücke.isEmpty()) {
+                form.abbrechen();
+                return;
+            }
+            sobaldBereit(form, [&] {
+                nacheinanderSenden(*instrument, fall.stücke, 1);
+                QTimer::singleShot(150, &form, [&form, &sendText] {
+                    sendText = form.sendText();
+                    form.abbrechen();
+                });
+            });
+        });
+
+        übertragen();
+
+        EXPECT_EQ(modul().Abbruchmerker, 1);
+        EXPECT_TRUE(m_ui.meldungen.isEmpty());
+        EXPECT_EQ(datei(), AlteDatei);
+        EXPECT_EQ(sendText, fall.stücke.isEmpty() ? QString() : QString("Datenübertragung läuft..."));
+    }
+}
+
+TEST_F(SorelinUebertragungTest, GezogenesKabelNachDerStartmarkeWartetBisZumAbbruch) {
+    Simulator sim({"--type", "102", "--records", "40", "--instrument", "4130", "--baud", "9600", "--link",
+                   pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    bool gezogen = false;
+    bool wartetNoch = false;
+    imDialog([&](frmSorelin& form) {
+        sobaldBereit(form, [&sim] { sim.tasteDrücken(); });
+        QObject::connect(&form, &frmSorelin::aktualisiert, &form, [&] {
+            if (gezogen || form.sendText() != "Datenübertragung läuft...")
+                return;
+            gezogen = true;
+            sim.kabelZiehen();
+            QTimer::singleShot(400, &form, [&] {
+                wartetNoch = form.istOffen();
+                form.abbrechen();
+            });
+        });
+    });
+
+    übertragen();
+
+    EXPECT_TRUE(gezogen);
+    EXPECT_TRUE(wartetNoch) << "no time limit after the start mark";
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << "a dead line is silence";
+    EXPECT_EQ(datei(), AlteDatei);
+    EXPECT_TRUE(m_puffer.contains(sorelin::Startmarke));
+}
+
+TEST_F(SorelinUebertragungTest, DasBildDesSimulatorsKommtUnverfaelschtUeberDasPseudoterminal) {
+    Simulator sim(
+        {"--type", "102", "--records", "3", "--instrument", "4130", "--baud", "0", "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    imDialog([&](frmSorelin& form) { sobaldBereit(form, [&sim] { sim.tasteDrücken(); }); });
+
+    übertragen();
+
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(datei(), sim::sorelinSpeicher(db(), 4130, 3));
+}
+
+TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
+    modul().portPfad = pfad("kein-port");
+    übertragen();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("8002 ")) << m_ui.meldungen[0].text.toStdString();
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+
+    // A port already open is told by its text alone.
+    m_ui.meldungen.clear();
+    modul().portPfad.clear();
+    auto instrument = speicherleitungEinstecken();
+    modul().commPortFabrik = [fabrik = modul().commPortFabrik] {
+        auto p = fabrik();
+        p->setPortOpen(true);
+        return p;
+    };
+    übertragen();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith(fehler::mit(fehler::PortBereitsGeöffnet).beschreibung()))
+        << m_ui.meldungen[0].text.toStdString();
+
+    // A data block longer than 32767 bytes overflows the length's 16-bit arithmetic.
+    m_ui.meldungen.clear();
+    instrument = speicherleitungEinstecken(0);
+    instrument->setPortOpen(true);
+    imDialog([&](frmSorelin& form) {
+        sobaldBereit(form, [&] {
+            instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00"
+                                                                         "1E0000"
+                                                                         "8001"));
+        });
+    });
+    übertragen();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("6 ")) << m_ui.meldungen[0].text.toStdString();
+    EXPECT_EQ(datei(), AlteDatei);
+}
+
+TEST_F(SorelinUebertragungTest, FensterZeigtFortschrittUndSchliessenBrichtAb) {
+    QtUi qtUi(ansichten());
+    modul().ui = &qtUi;
+    auto instrument = speicherleitungEinstecken(0);
+    instrument->setPortOpen(true);
+    const QByteArray bild = SorelinBild(QByteArray(300, '\x11')).bytes();
+    frmSorelin form;
+    form.setEinschwingzeit(10);
+    QPointer<QDialog> fenster;
+    QLabel* prozent = nullptr;
+    QProgressBar* balken = nullptr;
+    const auto nachsehen = [&] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == "frmSorelin")
+                fenster = qobject_cast<QDialog*>(w);
+        if (!fenster)
+            return form.abbrechen();
+        EXPECT_EQ(fenster->windowTitle(), "vemotrix professional - Serielle Datenübertragung");
+        prozent = fenster->findChild<QLabel*>("labProzent");
+        balken = fenster->findChild<QProgressBar*>("Bar1");
+        EXPECT_EQ(fenster->findChild<QLabel*>("labSendText")->text(), "Datenübertragung läuft...");
+        EXPECT_EQ(prozent->text(), form.prozentText());
+        EXPECT_EQ(balken->value(), 150);
+        EXPECT_EQ(balken->maximum(), form.fortschrittMax());
+        fenster->close();
+        EXPECT_FALSE(fenster->isVisible());
+    };
+    sobaldBereit(form, [&] {
+        instrument->Output(bild.left(150));
+        QTimer::singleShot(200, &form, nachsehen);
+    });
+
+    form.zeigen();
+    modul().ui = &m_ui;
+
+    EXPECT_TRUE(prozent && balken);
+    EXPECT_EQ(modul().Abbruchmerker, 1) << "closing the window aborts";
+    EXPECT_EQ(datei(), AlteDatei);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(fenster.isNull());
+}
+
+} // namespace
+} // namespace vemo::test

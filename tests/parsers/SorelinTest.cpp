@@ -1,0 +1,290 @@
+#include "support/SorelinBild.h"
+#include "support/Testumgebung.h"
+
+#include "core/Arbeitsdateien.h"
+#include "core/Geraetetypen.h"
+#include "host/DateiEinlesen.h"
+#include "parsers/EinlesenVonDatei.h"
+#include "parsers/SorelinTreiber.h"
+#include "store/Recordset.h"
+#include "store/Variant.h"
+
+#include <QFile>
+
+namespace vemo::test {
+namespace {
+
+// A circuit of the SORELIN PM 12 (type 4120): insulation at 500 V of 245 MOhm in the range without
+// divisor, continuity 0.35 Ohm, loop 0.41 Ohm with 561 A, and an RCD test whose id 20 is the top
+// byte of its trip time of 23 ms, touch voltage 1.8 V, tripping current 21 mA, limit 50 V, rated
+// current 30 mA and the settings byte 05 (type A, factor x1, half-wave 0°).
+const QByteArray Kreis1 = QByteArray::fromHex("8180F5"
+                                              "820023"
+                                              "8300290231"
+                                              "140017001200153200"
+                                              "1E05");
+const QStringList Kreis1Zeilen{"Riso R V=500 V", "Riso R MOhm=245 MOhm", "LOW Ohm=0.35 Ohm", "Zs=0.41 Ohm",
+                               "Zs Ik=561 A",    "FI t=23 ms",           "FI Ub=1.8 V",      "FI Ia=21 mA",
+                               "Ub max=50 V",    "FI E, Idn=30 mA",      "FI Einstellung=5", "FI Stromart=A",
+                               "FI Faktor=x1",   "FI Halbwelle=0°"};
+// Behind the start block 240 a second circuit: both readings over range.
+const QByteArray Kreis2 = QByteArray::fromHex("F0"
+                                              "813FFF"
+                                              "82FFFF");
+
+class SorelinTest : public Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        modul().Selektor() = selektor::Sorelin;
+    }
+
+    // Reads the image as the driver does after a transfer.
+    void lesen(const QByteArray& bild) {
+        QFile f(arbeitsdatei(datei::Rs232Sep));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(bild);
+        f.close();
+        modul().Abbruchmerker = 0;
+        m_ui.meldungen.clear();
+        EinlesenVonDatei();
+    }
+
+    // Each read-in row as "circuit: Funktion=wert Einheit | ...", in key order.
+    QStringList gelesen() const {
+        QStringList kreise;
+        Recordset d = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
+        for (; !d.Eof(); d.MoveNext()) {
+            QStringList werte;
+            Recordset m = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
+                                             d.Text("MessungID"));
+            for (; !m.Eof(); m.MoveNext())
+                werte << (m.Text("Funktion") + "=" + m.Text("wert") + " " + m.Text("Einheit")).trimmed();
+            kreise << d.Text("VerteilerNr") + "/" + d.Text("StromkreisNr") + ": " + werte.join(" | ");
+        }
+        return kreise;
+    }
+};
+
+TEST_F(SorelinTest, EinBildWirdNachDerTreibertabelleGelesen) {
+    modul().PrüfgerätID = 17;
+    lesen(SorelinBild(Kreis1 + Kreis2).vorher(QByteArray("\x00\xFF\xD5\x13", 4)).bytes());
+
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(gelesen(),
+              (QStringList{"0001/0001: " + Kreis1Zeilen.join(" | "),
+                           "0001/0002: Riso R V=500 V | Riso R MOhm=>163.83 MOhm | LOW Ohm=>327.67 Ohm"}));
+    EXPECT_EQ(wert("SELECT PrüfgerätName || '/' || Seriennummer FROM 0100_EinleseGeräteDaten"),
+              "SORELIN PM 12/");
+    EXPECT_EQ(wert("SELECT PrüfgerätID FROM 0100_EinleseGeräteDaten"), "17");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseDaten WHERE GeräteID = (SELECT GeräteID FROM "
+                   "0100_EinleseGeräteDaten) AND AnlageNr = '' AND Datum = '' AND Uhrzeit = ''"),
+              "2");
+    EXPECT_EQ(anzahl("Prüfgerät"), 0) << "the register is not asked for this family";
+    EXPECT_EQ(modul().sorelinSeriennummer, "SL4120001");
+}
+
+TEST_F(SorelinTest, SeriennummerAusDBuchstabenIstKeine) {
+    lesen(SorelinBild(Kreis1).seriennummer("DDDDDDDDD").bytes());
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(modul().sorelinSeriennummer, QString());
+    EXPECT_EQ(wert("SELECT Seriennummer FROM 0100_EinleseGeräteDaten"), "");
+}
+
+TEST_F(SorelinTest, NurEineNeuereFirmwareAlsDerTreiberWirdAbgewiesen) {
+    // The driver of type 4120 knows version 1.4: the bytes 1 and 4.
+    lesen(SorelinBild(Kreis1).firmware(QByteArray("\x01\x04", 2)).bytes());
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 1);
+
+    lesen(SorelinBild(Kreis1).firmware(QByteArray("\x01\x05", 2)).bytes());
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(m_ui.meldungen[0].text, "Ihr Treiber ist nicht aktuell SORELIN PM 12 Version 1.5");
+    EXPECT_EQ(m_ui.meldungen[0].stil.symbol, MsgSymbol::Warnung);
+    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 1) << "nothing of the refused image is written";
+}
+
+TEST_F(SorelinTest, WasDerParserNichtLesenKannWirdGemeldet) {
+    const struct {
+        const char* fall;
+        QByteArray bild;
+        QStringList meldungen;
+    } fälle[] = {
+        {"no start mark", QByteArray::fromHex("00FFD5D500"), {"Startblock Error", "9 Index außerhalb"}},
+        {"a block kind it does not know",
+         SorelinBild(Kreis1).zusatzblöcke("\x07").bytes(),
+         {"Blockkennung nicht bekannt"}},
+        {"two blocks of kind 10",
+         SorelinBild(Kreis1)
+             .zusatzblöcke(QByteArray::fromHex("0A00"
+                                               "0A00"))
+             .bytes(),
+         {"MessBlockKennung nicht bekannt"}},
+        {"no driver table for the type", SorelinBild(Kreis1).typ(4999).bytes(), {"Unbekanntes Prüfgerät"}},
+        {"a block the driver does not know",
+         SorelinBild(Kreis1 + "\x85").bytes(),
+         {"3021 Kein aktueller Datensatz"}},
+        {"an image cut off inside a block", SorelinBild(Kreis1).bytes().left(29), {"9 Index außerhalb"}},
+    };
+    for (const auto& f : fälle) {
+        SCOPED_TRACE(f.fall);
+        sql("DELETE FROM \"0100_EinleseDaten\"; DELETE FROM \"0100_EinleseGeräteDaten\";");
+        lesen(f.bild);
+        EXPECT_EQ(modul().Abbruchmerker, 1);
+        ASSERT_EQ(m_ui.meldungen.size(), f.meldungen.size()) << m_ui.texte().join(" | ").toStdString();
+        for (qsizetype i = 0; i < f.meldungen.size(); ++i) {
+            EXPECT_TRUE(m_ui.meldungen[i].text.startsWith(f.meldungen[i]))
+                << m_ui.meldungen[i].text.toStdString();
+            EXPECT_EQ(m_ui.meldungen[i].titel, "vemotrix professional");
+        }
+    }
+    // What was read before the block it did not know stays.
+    lesen(SorelinBild(Kreis1 + "\x85").bytes());
+    EXPECT_EQ(gelesen(), QStringList{"0001/0001: " + Kreis1Zeilen.join(" | ")});
+}
+
+TEST_F(SorelinTest, DieselbeStromkreisnummerDirektHinterDerLetztenZeileGibtKeineNeue) {
+    lesen(SorelinBild(QByteArray::fromHex("820023")).bytes());
+    lesen(SorelinBild(QByteArray::fromHex("820024"
+                                          "F0"
+                                          "820025"))
+              .bytes());
+
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(gelesen(),
+              (QStringList{"0001/0001: LOW Ohm=0.35 Ohm | LOW Ohm=0.36 Ohm", "0001/0002: LOW Ohm=0.37 Ohm"}));
+    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 2);
+}
+
+TEST_F(SorelinTest, DieProbenWerdenAusDerDateiErkanntUndGelesen) {
+    const struct {
+        const char* probe;
+        QStringList meldungen;
+        long zeilen;
+        long werte;
+    } proben[] = {
+        {"sorelin-pm12.ser", {}, 3, 42},
+        {"sorelin-pm20.ser", {}, 3, 36},
+        {"sorelin-unbekanntes-geraet.ser", {"Unbekanntes Prüfgerät"}, 0, 0},
+        {"sorelin-treiber-veraltet.ser", {"Ihr Treiber ist nicht aktuell SORELIN PM 12 Version 1.5"}, 0, 0},
+        {"sorelin-zwei-zusatzbloecke.ser", {"MessBlockKennung nicht bekannt"}, 0, 0},
+    };
+    modul().BackupVerzeichnis = m_dir.path();
+    for (const auto& p : proben) {
+        SCOPED_TRACE(p.probe);
+        sql("DELETE FROM \"0100_EinleseDaten\";");
+        modul().Selektor() = selektor::Deutsch;
+        m_ui.meldungen.clear();
+        EinlesenAusDateiName(quelle(QString("samples/") + p.probe));
+        EXPECT_EQ(modul().Selektor(), selektor::Sorelin);
+        EXPECT_EQ(m_ui.texte(), p.meldungen);
+        EXPECT_EQ(anzahl("0100_EinleseDaten"), p.zeilen);
+        EXPECT_EQ(anzahl("0100_EinleseMessDaten"), p.werte);
+        EXPECT_EQ(wert("SELECT Group_Concat(Funktion) FROM 0100_EinleseMessDaten WHERE Funktion NOT IN "
+                       "(SELECT TeilFunktion FROM 0100_TeilFunktion)"),
+                  "")
+            << "the host data knows every function name the driver tables give";
+    }
+}
+
+// Driver tables of our own for the columns' meaning, apart from the shipped host data.
+class SorelinTreiberTest : public SorelinTest {
+protected:
+    void SetUp() override {
+        SorelinTest::SetUp();
+        QStringList spalten;
+        for (int i = 1; i <= 23; ++i)
+            spalten << QString("\"%1\" TEXT").arg(i);
+        sql("CREATE TABLE \"77Sorelin\" (" + spalten.join(", ") +
+            ");"
+            "INSERT INTO \"77Sorelin\" (\"1\", \"2\", \"3\", \"4\", \"5\") VALUES"
+            "  ('Version', '1', '', '', ''), ('NameDE', 'Prüfling', '', '', ''), ('StartBlock', '240', '', "
+            "'', ''),"
+            "  ('Bereich', '&H8000', '1000', '0', '10'), ('Grenze', 'F000', 'Kein Overflow', '4000', '> '),"
+            "  ('Arten', '1', 'A', '0', 'AC'), ('Faktoren', '2', 'x2', '0', 'x1'), ('Wellen', '4', '180°', "
+            "'0', '0°'),"
+            "  ('Grenzen', '8', '25 V', '0', '50 V');"
+            "INSERT INTO \"77Sorelin\" (\"1\", \"2\", \"7\", \"8\", \"9\", \"10\", \"11\", \"12\", \"13\", "
+            "\"14\", \"15\")"
+            "  VALUES ('Wert', '', '1', '2', '0FFF', '', '', '', 'Bereich', 'Grenze', '3'),"
+            "  ('Leer', '', '1', '4', '', '', '', '', '', '', ''),"
+            "  ('200DE', '', '2', '1', '', 'a', '', 'X', '', '', ''),"
+            "  ('9DE', '', '1', '3', 'FFFF', 'b', '', 'X', '', '', ''),"
+            "  ('10DE', '', '0', '', '', '', '', '', '', '', ''),"
+            "  ('20DE', '30 mA (s)', '1', '2', 'FF', 'E', '', 'FI', '', '', '');"
+            "UPDATE \"77Sorelin\" SET \"16\" = '2', \"20\" = 'FI' WHERE \"1\" = '200DE';"
+            "UPDATE \"77Sorelin\" SET \"4\" = 'Arten', \"5\" = 'Faktoren', \"6\" = 'Wellen' WHERE \"1\" = "
+            "'20DE';"
+            "INSERT INTO \"77Sorelin\" (\"1\", \"4\", \"5\", \"7\", \"8\", \"9\", \"10\", \"11\", \"12\","
+            "  \"16\", \"18\", \"20\") VALUES ('5DE', 'Grenzen', 'Faktoren', '2', '3', 'FFFF', 'IdN', 'mA', "
+            "'FI',"
+            "  '1', 'Einstellung', 'FI');");
+        m_treiber = SorelinTreiber::öffnen(db(), 77);
+    }
+    QString wertVon(const QByteArray& hex, const QString& zeile) const {
+        return GetSorelinWert(QByteArray::fromHex(hex), 0, m_treiber, *m_treiber.zeile(zeile), 8);
+    }
+
+    SorelinTreiber m_treiber;
+};
+
+TEST_F(SorelinTreiberTest, MaskeSkalaUeberlaufUndStellenFormenDenWert) {
+    // Mask 0FFF, a divisor of 1000 when bit 15 is set and of 10 otherwise, three decimals.
+    EXPECT_EQ(wertVon("8123", "Wert"), "0.291");
+    EXPECT_EQ(wertVon("0123", "Wert"), "29.100");
+    EXPECT_EQ(wertVon("4123", "Wert"), "> 29.100") << "the overflow list's prefix";
+    EXPECT_EQ(wertVon("F123", "Wert"), "0.291") << "\"Kein Overflow\" matched first";
+    // Empty columns: all bits, no scale, no overflow, whole numbers.
+    EXPECT_EQ(wertVon("FFFFFFFF", "Leer"), "4294967295");
+    EXPECT_EQ(m_treiber.zeile("wert"), m_treiber.zeile("Wert")) << "keys compare without regard to case";
+
+    EXPECT_THROW(wertVon("81", "Wert"), Fehler) << "a value past the image's end";
+    EXPECT_EQ(treiberHexZahl("&H1f"), 0x1Fu);
+    EXPECT_THROW(treiberHexZahl("zz"), Fehler);
+    EXPECT_THROW(rohzahl(QByteArray(8, '\0'), 0, 5), Fehler);
+}
+
+TEST_F(SorelinTreiberTest, BlockendeFolgtDenWertenUndKenntStartblockUndEnde) {
+    // 200 stands before its values (1 + 2 bytes); 9 shares its byte with its three-byte value;
+    // 10 has no values and is its id alone.
+    const QByteArray daten = QByteArray::fromHex("C8"
+                                                 "01"
+                                                 "0002"
+                                                 "F0"
+                                                 "090005"
+                                                 "0A"
+                                                 "C8");
+    const auto ende = [&](qsizetype p) { return GetMessBlockEnd(daten, p, daten.size() - 1, m_treiber); };
+    EXPECT_EQ(ende(0).position, 4);
+    EXPECT_EQ(ende(0).art, Blockart::StartBlock);
+    EXPECT_EQ(werteBeginn(daten, 5), 5);
+    EXPECT_EQ(ende(5).position, 8);
+    EXPECT_EQ(ende(5).art, Blockart::Messblock);
+    EXPECT_EQ(ende(8).position, 9);
+    EXPECT_EQ(ende(8).art, Blockart::Ende);
+    EXPECT_THROW(GetMessBlockEnd(QByteArray::fromHex("55"), 0, 1, m_treiber), Fehler);
+}
+
+TEST_F(SorelinTreiberTest, DieRcdBloeckeSchreibenIhreEinstellungenDahinter) {
+    // Type 77: a selective RCD test with settings 07 (A, x2, 180°), then trip time series heads for
+    // 500 mA and for 30 mA with settings 08 (limit 25 V) and 00 (50 V).
+    lesen(SorelinBild(QByteArray::fromHex("1407"
+                                          "F0"
+                                          "0501F408"
+                                          "F0"
+                                          "05001E00"))
+              .typ(77)
+              .firmware(QByteArray("\x01\x00", 2))
+              .bytes());
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(gelesen(),
+              (QStringList{"0001/0001: FI E mA=30 mA | FI E=7 | FI Stromart=A | FI Faktor=S x2 | "
+                           "FI Halbwelle=180°",
+                           "0001/0002: FI IdN=500 mA | FI Einstellung=8 | FI UL=25 V | FI Faktor=x1",
+                           "0001/0003: FI IdN=30 mA | FI Einstellung=0 | FI UL=50 V"}));
+}
+
+} // namespace
+} // namespace vemo::test
