@@ -2,6 +2,7 @@
 
 #include "grid/EinleseDatenAnsicht.h"
 #include "links/Form2Ansicht.h"
+#include "links/KontalexAnsicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
 
@@ -16,6 +17,7 @@ const Ansichtstabelle& ansichten() {
          [](DialogController& c, QWidget* p) {
              return new TeilFunktionAnsicht(static_cast<frmTeilFunktion&>(c), p);
          }},
+        {"vemo::Kontalex", &KontalexAnsicht::erstellen},
     };
     return tabelle;
 }

@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "links/Form2.h"
+#include "links/Kontalex.h"
 
 #include <QSocketNotifier>
 #include <csignal>
@@ -32,6 +33,8 @@ Empfangskonsole::Empfangskonsole(bool immerJa) : KonsolenUi(immerJa) {
         [[maybe_unused]] const ssize_t n = ::read(ctrlC[1], &c, 1);
         if (m_form)
             m_form->abbrechen();
+        else if (m_kontalex)
+            m_kontalex->abbrechen();
         else
             modul().Abbruchmerker = 1; // not waiting yet: the reception will not start
     });
@@ -78,5 +81,28 @@ void Empfangskonsole::hinweisZeigen() {
     if (!m_form || m_form->hinweis().isEmpty() || m_form->hinweis() == m_gezeigt)
         return;
     m_gezeigt = m_form->hinweis();
+    std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+}
+
+int Empfangskonsole::zeigeModal(DialogController& dialog) {
+    auto* kontalex = qobject_cast<Kontalex*>(&dialog);
+    if (kontalex) {
+        m_kontalex = kontalex;
+        std::fprintf(stderr, "%s\n", kontalex->titel().toLocal8Bit().constData());
+        QObject::connect(kontalex, &DialogController::aktualisiert, kontalex, [this] { zustandZeigen(); });
+    }
+    return KonsolenUi::zeigeModal(dialog);
+}
+
+// The state once each time it changes, with the blocks fetched so far.
+void Empfangskonsole::zustandZeigen() {
+    if (!m_kontalex)
+        return;
+    QString zustand = m_kontalex->zustand();
+    if (!m_kontalex->blocknummer().isEmpty())
+        zustand += " " + m_kontalex->messungenText() + ": " + m_kontalex->blocknummer();
+    if (zustand.isEmpty() || zustand == m_gezeigt)
+        return;
+    m_gezeigt = zustand;
     std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
 }

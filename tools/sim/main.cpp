@@ -52,13 +52,14 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
     const QCommandLineOption speicher("memory", "Dump file the instrument holds, sent byte for byte.",
                                       "FILE");
     const QCommandLineOption datensätze("records", "Generate a memory of N records (default 5).", "N", "5");
+    const QCommandLineOption modell("model", "Model of the instrument, for types of several models.", "NAME");
     const QCommandLineOption link("link", "Symbolic link to the serial device.", "PATH");
     const QCommandLineOption drücken("press-after", "Press the send key after SECONDS.", "SECONDS");
     const QCommandLineOption baud("baud", "Pace of the printout; 0 sends at once (default 2400).", "N",
                                   "2400");
     const QCommandLineOption pause("pause", "Pause before each closing empty line (default 250).", "MS",
                                    "250");
-    p.addOptions({typ, speicher, datensätze, link, drücken, baud, pause});
+    p.addOptions({typ, speicher, datensätze, modell, link, drücken, baud, pause});
     p.process(argumente);
 
     bool ok = false;
@@ -70,16 +71,24 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
         return QString("type %1 is not simulated").arg(p.value(typ));
     if (p.isSet(speicher) && p.isSet(datensätze))
         return "--memory and --records exclude each other";
+    if (p.isSet(modell) && !o.typ->speicherDesModells)
+        return QString("type %1 has no models").arg(o.typ->code);
     if (p.isSet(speicher)) {
         QFile datei(p.value(speicher));
         if (!datei.open(QIODevice::ReadOnly))
             return "cannot read " + datei.fileName() + ": " + datei.errorString();
         o.speicher = datei.readAll();
+        if (o.typ->speicherPrüfen)
+            if (const QString f = o.typ->speicherPrüfen(o.speicher, p.value(modell)); !f.isEmpty())
+                return datei.fileName() + ": " + f;
     } else {
         const int n = p.value(datensätze).toInt(&ok);
         if (!ok || n < 0)
             return "--records needs a count";
-        o.speicher = o.typ->speicherErzeugen(n);
+        o.speicher =
+            p.isSet(modell) ? o.typ->speicherDesModells(n, p.value(modell)) : o.typ->speicherErzeugen(n);
+        if (o.speicher.isEmpty() && p.isSet(modell))
+            return "model " + p.value(modell) + " is not simulated";
     }
     o.takt.baud = p.value(baud).toInt(&ok);
     if (!ok || o.takt.baud < 0)
