@@ -3,6 +3,7 @@
 #include "core/Geraetetypen.h"
 #include "core/ModulState.h"
 #include "host/Dateinummern.h"
+#include "host/KontalexTransfer.h"
 #include "links/DumpEmpfang.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Ui.h"
@@ -26,7 +27,7 @@ Ausgang nochNichtVerfügbar() {
 // printed dump.
 const std::map<QString, std::function<Ausgang()>>& verbindungen() {
     static const std::map<QString, std::function<Ausgang()>> tabelle{
-        {selektor::Kontalex, nochNichtVerfügbar},   {selektor::Sorelin, nochNichtVerfügbar},
+        {selektor::Kontalex, kontalexÜbertragen},   {selektor::Sorelin, nochNichtVerfügbar},
         {selektor::Zemak, nochNichtVerfügbar},      {selektor::Zemak3710B, nochNichtVerfügbar},
         {selektor::Zemak3720, nochNichtVerfügbar},  {selektor::Zemak3740, nochNichtVerfügbar},
         {selektor::Quentavoir, nochNichtVerfügbar},

@@ -10,15 +10,19 @@ Einleseblöcke::Einleseblöcke()
       m_messDaten(db().OpenRecordset("0100_EinleseMessDaten")) {}
 
 qint32 Einleseblöcke::neuerBlock(qint32 geräteID, const QString& verteilerNr, const QString& stromkreisNr) {
+    return neuerBlock(geräteID, {{}, verteilerNr, stromkreisNr, {}, {}});
+}
+
+qint32 Einleseblöcke::neuerBlock(qint32 geräteID, const Blockkopf& kopf) {
     m_daten.AddNew();
     const qint32 messungID = NeueID("", m_daten.Name());
     m_daten.setField("MessungID", messungID);
     m_daten.setField("GeräteID", geräteID);
-    m_daten.setField("AnlageNr", QString());
-    m_daten.setField("VerteilerNr", verteilerNr);
-    m_daten.setField("StromkreisNr", stromkreisNr);
-    m_daten.setField("Uhrzeit", QString());
-    m_daten.setField("Datum", QString());
+    m_daten.setField("AnlageNr", kopf.anlageNr);
+    m_daten.setField("VerteilerNr", kopf.verteilerNr);
+    m_daten.setField("StromkreisNr", kopf.stromkreisNr);
+    m_daten.setField("Uhrzeit", kopf.uhrzeit);
+    m_daten.setField("Datum", kopf.datum);
     m_daten.Update();
     return messungID;
 }

@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "parsers/Corvex.h"
+#include "parsers/Kontalex.h"
 #include "parsers/MultitesterTabelle.h"
 #include "platform/Ui.h"
 
@@ -21,9 +22,12 @@ void nochNichtMöglich() {
 // The parser of each Selektor; any selector not listed reads the Multitester report format.
 const QHash<QString, Parser>& parserDerSelektoren() {
     static const QHash<QString, Parser> tabelle{
-        {"Multitester = Kontalex", nochNichtMöglich},    {"Multitester = Sorelin", nochNichtMöglich},
-        {"Multitester = ZEMAK 3710B", nochNichtMöglich}, {"Multitester = ZEMAK 3720", nochNichtMöglich},
-        {"Multitester = ZEMAK 3740", nochNichtMöglich},  {"Multitester = Quentavoir", nochNichtMöglich},
+        {"Multitester = Kontalex", Kontalex},
+        {"Multitester = Sorelin", nochNichtMöglich},
+        {"Multitester = ZEMAK 3710B", nochNichtMöglich},
+        {"Multitester = ZEMAK 3720", nochNichtMöglich},
+        {"Multitester = ZEMAK 3740", nochNichtMöglich},
+        {"Multitester = Quentavoir", nochNichtMöglich},
         {"Multitester = ZEMAK", nochNichtMöglich},
     };
     return tabelle;
