@@ -5,13 +5,18 @@
 #include "KontalexSpeicher.h"
 #include "PortLeitung.h"
 #include "PtyLeitung.h"
+#include "ansichten/Ansichten.h"
 #include "core/Arbeitsdateien.h"
 #include "links/Kontalex.h"
 #include "links/KontalexSpeicher.h"
 #include "links/KontalexText.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QLabel>
 #include <QPointer>
+#include <QPushButton>
+#include <QTest>
 #include <QTimer>
 
 namespace vemo::test {
@@ -19,6 +24,9 @@ namespace {
 
 // The dialog's times, shortened: three seconds of a tenth each, asking every tenth of a second.
 const Kontalex::Zeiten Schnell{3, 100, 100, 40, 200};
+// For an instrument that sends at its line's pace: a longer silence ends an answer, so that a busy
+// machine doesn't cut one between two pieces.
+const Kontalex::Zeiten AmLeitungstakt{3, 100, 100, 100, 300};
 
 class KontalexDialogTest : public Testumgebung {
 protected:
@@ -137,7 +145,7 @@ TEST_F(KontalexDialogTest, JedesModellUebertraegtSeinenSpeicher) {
                        "--link", pfad("port")});
         ASSERT_FALSE(sim.gerät().isEmpty());
         modul().portPfad = pfad("port");
-        Kontalex dialog(Schnell);
+        Kontalex dialog(baud == "0" ? Schnell : AmLeitungstakt);
 
         ausführen(dialog);
 
@@ -295,6 +303,47 @@ TEST_F(KontalexDialogTest, FehlenderPortWirdGemeldetUndNichtGezeigt) {
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("Ungültige Anschlussnummer"))
         << "the text without its number";
     EXPECT_TRUE(m_ui.dialoge.isEmpty());
+}
+
+TEST_F(KontalexDialogTest, FensterZeigtDenDialogUndBrichtAb) {
+    QString fehler;
+    const auto leitung = sim::PtyLeitung::öffnen(fehler);
+    ASSERT_TRUE(leitung) << fehler.toStdString();
+    modul().portPfad = leitung->gerätePfad();
+    QtUi qtUi(ansichten());
+    modul().ui = &qtUi;
+    Kontalex dialog({30, 1000, 100, 150, 300});
+    ASSERT_TRUE(dialog.laden());
+    QMap<QString, QString> texte;
+    QTimer::singleShot(350, [&] {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (w->objectName() != "Kontalex" || !w->isVisible())
+                continue;
+            texte["Titel"] = w->windowTitle();
+            for (const QLabel* l : w->findChildren<QLabel*>())
+                texte[l->objectName()] = l->text();
+            if (auto* knopf = w->findChild<QPushButton*>("Command1")) {
+                texte["Command1"] = knopf->text();
+                QTest::mouseClick(knopf, Qt::LeftButton);
+            }
+        }
+    });
+    QTimer::singleShot(5000, &dialog, [&] {
+        m_wachhund = true;
+        dialog.abbrechen();
+    });
+
+    qtUi.zeigeModal(dialog);
+    modul().ui = &m_ui;
+
+    EXPECT_TRUE(dialog.abgebrochen()) << "the button is Command1";
+    EXPECT_EQ(texte["Titel"], "vemotrix professional - Serielle Datenübertragung");
+    EXPECT_EQ(texte["Command1"], "&Abbruch");
+    EXPECT_EQ(texte["Label9"], "Gerät nicht bereit !");
+    EXPECT_EQ(texte["Label1"], "Identifikation...");
+    EXPECT_EQ(texte["Label6"], "30");
+    EXPECT_EQ(texte["Label2"], "Baudrate");
+    EXPECT_EQ(texte["Label5"], "Abbruch in");
 }
 
 } // namespace
