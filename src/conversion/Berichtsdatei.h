@@ -13,7 +13,6 @@ public:
     Berichtsdatei(const QString& verzeichnis, const QString& nummer);
 
     void zeile(const QString& text);
-    QString pfad() const { return m_bericht.fileName(); }
 
 private:
     QFile m_bericht;

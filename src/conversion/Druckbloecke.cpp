@@ -130,11 +130,4 @@ const Druckblock* druckblockFür(const QString& funktion) {
     return nullptr;
 }
 
-QStringList gedruckteFunktionen() {
-    QStringList namen;
-    for (const Druckblock& b : druckblöcke())
-        namen += b.funktionen;
-    return namen;
-}
-
 } // namespace vemo

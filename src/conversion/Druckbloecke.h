@@ -26,7 +26,4 @@ struct Druckblock {
 // without the blanks around it.
 const Druckblock* druckblockFür(const QString& funktion);
 
-// Every function the report has a print block for.
-QStringList gedruckteFunktionen();
-
 } // namespace vemo

@@ -46,7 +46,6 @@ public:
     const QString& sekunden() const { return m_sekunden; }   // Label6: seconds left
     const QString& blocknummer() const { return m_block; }   // Label3
     int prozent() const { return int(m_prozent); }           // the bar in Picture1
-    bool wartet() const { return m_bereitTimer.isActive(); } // still asking for the instrument
 
     // The user aborted, or the waiting time ran out: the driver leaves without a word.
     bool abgebrochen() const { return m_abgebrochen; }

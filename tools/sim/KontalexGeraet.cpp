@@ -95,7 +95,7 @@ void KontalexGerät::weiterSenden() {
     senden(stück);
     m_gesendet += stück.size();
     if (m_abgebrochen && m_ausgang.isEmpty())
-        setStumm(true); // the cable is gone: nothing more comes through
+        m_stumm = true; // the cable is gone: nothing more comes through
     if (!m_ausgang.isEmpty())
         m_uhr.start(Stückdauer);
 }

@@ -14,7 +14,7 @@ namespace vemo::sim {
 // number of blocks, "MWH" with who it is, "MSS" with the start, each "MRE" with the next block of
 // its memory (the empty block once they are all gone), and "MEX", where its model does, with the
 // end. The answers are those its memory holds, so that a transfer gives back the raw file it was
-// made from. It sends at the pace of its line speed; it can be made to fall silent on purpose.
+// made from. It sends at the pace of its line speed; it can be made to break off in a block.
 // (No Q_OBJECT: it adds no signals, and the meta-object compiler reads no umlauts in class names.)
 class KontalexGerät : public Instrument {
 public:
@@ -25,13 +25,10 @@ public:
     // The instrument has no send key: the computer asks.
     void tasteGedrückt() override {}
 
-    // The instrument hears but gives no answer, as one switched off or not in remote mode.
-    void setStumm(bool stumm) { m_stumm = stumm; }
     // After this many blocks sent it stops in the middle of the next one, as a pulled cable does.
     void setAbbruchNachBlöcken(int blöcke) { m_abbruchNach = blöcke; }
     // The commands heard so far, in order.
     const QStringList& befehle() const { return m_befehle; }
-    QString modell() const { return m_speicher.modell(); }
 
 private:
     void befehlAusführen(const QByteArray& befehl);
