@@ -38,14 +38,14 @@ public:
 
     QString titel() const;
     QString abbrechenText() const;
-    QString baudrateText() const;                            // Label2
-    QString messungenText() const;                           // Label4
-    QString abbruchInText() const;                           // Label5
-    const QString& kennung() const { return m_kennung; }     // Label1: the baud rate, or what is asked
-    const QString& zustand() const { return m_zustand; }     // Label9
-    const QString& sekunden() const { return m_sekunden; }   // Label6: seconds left
-    const QString& blocknummer() const { return m_block; }   // Label3
-    int prozent() const { return int(m_prozent); }           // the bar in Picture1
+    QString baudrateText() const;                          // Label2
+    QString messungenText() const;                         // Label4
+    QString abbruchInText() const;                         // Label5
+    const QString& kennung() const { return m_kennung; }   // Label1: the baud rate, or what is asked
+    const QString& zustand() const { return m_zustand; }   // Label9
+    const QString& sekunden() const { return m_sekunden; } // Label6: seconds left
+    const QString& blocknummer() const { return m_block; } // Label3
+    int prozent() const { return int(m_prozent); }         // the bar in Picture1
 
     // The user aborted, or the waiting time ran out: the driver leaves without a word.
     bool abgebrochen() const { return m_abgebrochen; }
