@@ -201,5 +201,16 @@ INSERT INTO Sprache (TextID, Deutsch, "English (United Kingdom)") VALUES
   ('Zeit', 'Zeit', 'Time'),
   ('Spannung', 'Spannung', 'Voltage');
 
+-- The command-protocol transfer and its report.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('TimeOut', 'Time-out'),
+  ('Kommunikation nicht beendet !', 'Communication not ended !'),
+  ('Im Gerät sind keine Messungen gespeichert !', 'The instrument holds no measurements !'),
+  ('Einst.', 'Set.'),
+  ('Grenzw.', 'Limit'),
+  ('Messw.', 'Meas.'),
+  (': Dieser Text ist zu lang !', ': This text is too long !'),
+  (': Diese Soll Länge ist zu groß !', ': This target length is too great !');
+
 UPDATE Sprache SET Deutsch = TextID WHERE Deutsch IS NULL;
 UPDATE Sprache SET "Deutsch (&Deutschland)" = Deutsch, "Deutsch (&Österreich)" = Deutsch;

@@ -2,6 +2,7 @@
 
 #include "grid/EinleseDatenAnsicht.h"
 #include "links/Form2Ansicht.h"
+#include "links/KontalexAnsicht.h"
 #include "links/SorelinAnsicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
@@ -18,6 +19,7 @@ const Ansichtstabelle& ansichten() {
              return new TeilFunktionAnsicht(static_cast<frmTeilFunktion&>(c), p);
          }},
         {"vemo::frmSorelin", &SorelinAnsicht::erstellen},
+        {"vemo::Kontalex", &KontalexAnsicht::erstellen},
     };
     return tabelle;
 }

@@ -2,9 +2,11 @@
 
 #include "core/ModulState.h"
 #include "links/Form2.h"
+#include "links/Kontalex.h"
 #include "links/SorelinUebertragung.h"
 
 #include <QSocketNotifier>
+#include <QTimer>
 #include <csignal>
 #include <cstdio>
 #include <sys/socket.h>
@@ -36,6 +38,8 @@ Empfangskonsole::Empfangskonsole(bool immerJa) : KonsolenUi(immerJa) {
             m_form->abbrechen();
         else if (m_sorelin)
             m_sorelin->abbrechen();
+        else if (m_kontalex)
+            m_kontalex->abbrechen();
         else
             modul().Abbruchmerker = 1; // the run ends as aborted, and a wait still to come at once
     });
@@ -83,27 +87,51 @@ void Empfangskonsole::zeigeNichtModal(DialogController& dialog) {
     hinweisZeigen();
 }
 
-// The block transfer: its title, and its prompt whenever that changes.
-int Empfangskonsole::zeigeModal(DialogController& dialog) {
-    if (auto* form = qobject_cast<frmSorelin*>(&dialog)) {
-        m_sorelin = form;
-        std::fprintf(stderr, "%s\n", form->titel().toLocal8Bit().constData());
-        const auto zeigen = [this] {
-            if (!m_sorelin || m_sorelin->sendText() == m_gezeigt)
-                return;
-            m_gezeigt = m_sorelin->sendText();
-            std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
-        };
-        QObject::connect(form, &DialogController::aktualisiert, form, zeigen);
-        zeigen();
-    }
-    return KonsolenUi::zeigeModal(dialog);
-}
-
 // The hint once each time it changes; the blinking of the window has no meaning here.
 void Empfangskonsole::hinweisZeigen() {
     if (!m_form || m_form->hinweis().isEmpty() || m_form->hinweis() == m_gezeigt)
         return;
     m_gezeigt = m_form->hinweis();
+    std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+}
+
+// The modal transfer dialogs: their title, then each change of what they show; a Ctrl-C that came
+// before presses their abort button as soon as the dialog runs.
+int Empfangskonsole::zeigeModal(DialogController& dialog) {
+    if (auto* sorelin = qobject_cast<frmSorelin*>(&dialog)) {
+        m_sorelin = sorelin;
+        std::fprintf(stderr, "%s\n", sorelin->titel().toLocal8Bit().constData());
+        QObject::connect(sorelin, &DialogController::aktualisiert, sorelin, [this] { sendTextZeigen(); });
+        sendTextZeigen();
+        if (m_ctrlC)
+            QTimer::singleShot(0, sorelin, &frmSorelin::abbrechen);
+    } else if (auto* kontalex = qobject_cast<Kontalex*>(&dialog)) {
+        m_kontalex = kontalex;
+        std::fprintf(stderr, "%s\n", kontalex->titel().toLocal8Bit().constData());
+        QObject::connect(kontalex, &DialogController::aktualisiert, kontalex, [this] { zustandZeigen(); });
+        if (m_ctrlC)
+            QTimer::singleShot(0, kontalex, &Kontalex::abbrechen);
+    }
+    return KonsolenUi::zeigeModal(dialog);
+}
+
+// The block transfer's prompt whenever it changes.
+void Empfangskonsole::sendTextZeigen() {
+    if (!m_sorelin || m_sorelin->sendText() == m_gezeigt)
+        return;
+    m_gezeigt = m_sorelin->sendText();
+    std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+}
+
+// The state once each time it changes, with the blocks fetched so far.
+void Empfangskonsole::zustandZeigen() {
+    if (!m_kontalex)
+        return;
+    QString zustand = m_kontalex->zustand();
+    if (!m_kontalex->blocknummer().isEmpty())
+        zustand += " " + m_kontalex->messungenText() + ": " + m_kontalex->blocknummer();
+    if (zustand.isEmpty() || zustand == m_gezeigt)
+        return;
+    m_gezeigt = zustand;
     std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
 }

@@ -4,6 +4,7 @@
 #include "core/Geraetetypen.h"
 #include "core/ModulState.h"
 #include "host/Dateinummern.h"
+#include "host/KontalexTransfer.h"
 #include "host/Transfer.h"
 #include "links/SorelinErkennung.h"
 #include "parsers/EinlesenVonDatei.h"
@@ -12,6 +13,7 @@
 #include "store/Variant.h"
 
 #include <QDir>
+#include <QHash>
 #include <utility>
 
 namespace vemo {
@@ -33,6 +35,18 @@ QString selektorAusZeile(const QString& zeile) {
     return selektor::Kontalex; // the one format without a recognisable first line
 }
 
+// How a chosen file becomes the working file of its family: copied over the family's raw file,
+// unless the family takes it up with a step of its own.
+void dateiÜbernehmen(const QString& pfad) {
+    static const QHash<QString, void (*)(const QString&)> eigeneSchritte{
+        {selektor::Kontalex, kontalexDateiÜbernehmen},
+    };
+    if (const auto schritt = eigeneSchritte.value(modul().Selektor()))
+        schritt(pfad);
+    else
+        dateiKopieren(pfad, arbeitsdatei(rohdateiFür(modul().Selektor())));
+}
+
 void dateiEinlesen(const QString& pfad) {
     ModulState& m = modul();
     if (pfad.trimmed().isEmpty())
@@ -43,7 +57,7 @@ void dateiEinlesen(const QString& pfad) {
     m.arbeitsquelle = pfad;
     // Each file opened uses up a number, although no copy is made.
     m.backupNummer = NächsteDateiNummer();
-    dateiKopieren(pfad, arbeitsdatei(rohdateiFür(m.Selektor())));
+    dateiÜbernehmen(pfad);
     m.aktuellesPrüfgerät = 0;
     m.DatenloggerMode = false;
     EinlesenVonDatei();

@@ -3,6 +3,7 @@
 #include "core/Geraetetypen.h"
 #include "core/ModulState.h"
 #include "host/Dateinummern.h"
+#include "host/KontalexTransfer.h"
 #include "links/DumpEmpfang.h"
 #include "links/SorelinUebertragung.h"
 #include "parsers/EinlesenVonDatei.h"
@@ -34,7 +35,7 @@ Ausgang sorelinÜbertragung() {
 // printed dump.
 const std::map<QString, std::function<Ausgang()>>& verbindungen() {
     static const std::map<QString, std::function<Ausgang()>> tabelle{
-        {selektor::Kontalex, nochNichtVerfügbar},   {selektor::Sorelin, sorelinÜbertragung},
+        {selektor::Kontalex, kontalexÜbertragen},   {selektor::Sorelin, sorelinÜbertragung},
         {selektor::Zemak, nochNichtVerfügbar},      {selektor::Zemak3710B, nochNichtVerfügbar},
         {selektor::Zemak3720, nochNichtVerfügbar},  {selektor::Zemak3740, nochNichtVerfügbar},
         {selektor::Quentavoir, nochNichtVerfügbar},

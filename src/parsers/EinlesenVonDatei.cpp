@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "parsers/Corvex.h"
+#include "parsers/Kontalex.h"
 #include "parsers/MultitesterTabelle.h"
 #include "parsers/Sorelin.h"
 #include "parsers/Zemak.h"
@@ -14,21 +15,12 @@ namespace {
 
 using Parser = void (*)();
 
-// Families whose parser is still to come say so, and the run ends there.
-void nochNichtMöglich() {
-    ui().MsgBox(xText("Das Einlesen dieses Gerätetyps ist noch nicht möglich"), modul().anwendungstitel);
-    modul().Abbruchmerker = 1;
-}
-
 // The parser of each Selektor; any selector not listed reads the Multitester report format.
 const QHash<QString, Parser>& parserDerSelektoren() {
     static const QHash<QString, Parser> tabelle{
-        {"Multitester = Kontalex", nochNichtMöglich},
-        {"Multitester = Sorelin", Sorelin},
-        {"Multitester = ZEMAK", ZEMAK},
-        {"Multitester = ZEMAK 3710B", ZEMAK3710B},
-        {"Multitester = ZEMAK 3720", ZEMAK3720},
-        {"Multitester = ZEMAK 3740", ZEMAK3740},
+        {"Multitester = Kontalex", Kontalex},     {"Multitester = Sorelin", Sorelin},
+        {"Multitester = ZEMAK", ZEMAK},           {"Multitester = ZEMAK 3710B", ZEMAK3710B},
+        {"Multitester = ZEMAK 3720", ZEMAK3720},  {"Multitester = ZEMAK 3740", ZEMAK3740},
         {"Multitester = Quentavoir", Quentavoir},
     };
     return tabelle;

@@ -2,7 +2,6 @@
 
 #include "platform/Zahlformat.h"
 
-#include <QStringList>
 #include <cmath>
 
 namespace vemo {
@@ -50,29 +49,6 @@ QString GetRCD_RE(const QString& ub, const QString& fiIdn) {
     if (!spannung || !nennstrom || *spannung <= 0 || *nennstrom == 0)
         return {};
     return "<" + zahlformat::text(ganzerTeil((*spannung / (*nennstrom / 1000)) * 10 + 0.5) / 10);
-}
-
-QString NormWert(const QString& wert, const QString& einheit, const QString& operator_) {
-    QString w = wert.trimmed();
-    if (w.endsWith('!'))
-        w.chop(1);
-    if (operator_ == "s4") {
-        static const QStringList tausendfach{"kA", "kOhm", "GOhm"};
-        if (!tausendfach.contains(einheit))
-            return w;
-        QString zeichen;
-        if (w.startsWith('>') || w.startsWith('<')) {
-            zeichen = w.left(1);
-            w = w.mid(1);
-        }
-        const auto zahl = zahlformat::zahl(w.trimmed());
-        if (!zahl)
-            return zeichen + w;
-        return zeichen + zahlformat::text(*zahl * 1000);
-    }
-    if (operator_ == "s4 & s5")
-        return w + einheit;
-    return {};
 }
 
 } // namespace vemo

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/NormWert.h"
+
 #include <QString>
 
 namespace vemo {
@@ -19,10 +21,5 @@ QString FaktorZahl(const QString& fiFaktor);
 // current in mA: "<" and ohms to one decimal; empty when either is no number or the voltage is
 // not above 0, or the rated current is 0.
 QString GetRCD_RE(const QString& ub, const QString& fiIdn);
-
-// An instrument field as value or limit text. "s4" gives the value, scaled by 1000 from "kA",
-// "kOhm" and "GOhm" with its sign kept; "s4 & s5" the value followed by its unit; any other
-// selector nothing. A trailing "!" is dropped.
-QString NormWert(const QString& wert, const QString& einheit, const QString& operator_);
 
 } // namespace vemo

@@ -246,17 +246,6 @@ TEST_F(Einlesen, LoggerRecordAndDumpWithoutBlockGoToTheDataPool) {
     }
 }
 
-TEST_F(Einlesen, FamiliesWithoutParserSayWhyAndAbort) {
-    for (const QString selektor : {"Multitester = Kontalex"}) {
-        modul().Selektor() = selektor;
-        probeLesen("multitester-tabelle.ser");
-        EXPECT_EQ(m_ui.texte(), QStringList{"Das Einlesen dieses Gerätetyps ist noch nicht möglich"});
-        EXPECT_EQ(m_ui.meldungen.value(0).titel, Titel);
-        EXPECT_EQ(modul().Abbruchmerker, 1);
-        EXPECT_EQ(geschrieben(), 0);
-    }
-}
-
 TEST_F(Einlesen, HostDataKnowsEveryFunctionNameOfTheSamples) {
     probeLesen("corvex-verteilung.ser");
     probeLesen("multitester-tabelle.ser");

@@ -1,6 +1,8 @@
 #include "Instrumente.h"
 
 #include "CorvexSpeicher.h"
+#include "KontalexGeraet.h"
+#include "KontalexSpeicher.h"
 #include "SorelinGeraet.h"
 #include "SorelinSpeicher.h"
 
@@ -9,11 +11,26 @@
 namespace vemo::sim {
 namespace {
 
-const std::array<Instrumenttyp, 2> typen{{
+// A Kontalex memory is a raw file RS232.SEP, whose answer to "MWH" names the model.
+QString kontalexSpeicherPrüfen(const QByteArray& speicher, const QString& modell) {
+    const auto s = kontalexSpeicherLesen(speicher);
+    if (!s)
+        return "not a raw file RS232.SEP of a Kontalex transfer";
+    if (!modell.isEmpty() && s->modell() != modell)
+        return "the memory holds the model " + s->modell();
+    return {};
+}
+
+const std::array<Instrumenttyp, 3> typen{{
     {100, [](int datensätze) { return corvexSpeicher(datensätze); },
      [](QByteArray speicher, Takt takt) -> std::unique_ptr<Instrument> {
          return std::make_unique<MultitesterGerät>(std::move(speicher), takt);
      }},
+    {101, [](int datensätze) { return kontalexSpeicher(datensätze, "KONTALEX"); },
+     [](QByteArray speicher, Takt takt) -> std::unique_ptr<Instrument> {
+         return std::make_unique<KontalexGerät>(speicher, takt);
+     },
+     kontalexSpeicher, kontalexSpeicherPrüfen},
     {102, [](int stromkreise) { return sorelinSpeicherDerWahl(stromkreise); },
      [](QByteArray speicher, Takt takt) -> std::unique_ptr<Instrument> {
          return std::make_unique<SorelinGerät>(std::move(speicher), takt);

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QString>
 #include <memory>
 
 namespace vemo::sim {
@@ -15,6 +16,11 @@ struct Instrumenttyp {
     int code;
     QByteArray (*speicherErzeugen)(int datensätze);
     std::unique_ptr<Instrument> (*erstellen)(QByteArray speicher, Takt takt);
+    // Types of several models: a memory of N records for the model named, empty for a model the
+    // type doesn't know; and what is wrong with a memory given for the model (empty: any model),
+    // or an empty text when it fits.
+    QByteArray (*speicherDesModells)(int datensätze, const QString& modell) = nullptr;
+    QString (*speicherPrüfen)(const QByteArray& speicher, const QString& modell) = nullptr;
 };
 
 // The type of that code, or none.

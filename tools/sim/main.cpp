@@ -54,6 +54,7 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
     const QCommandLineOption speicher("memory", "Dump file the instrument holds, sent byte for byte.",
                                       "FILE");
     const QCommandLineOption datensätze("records", "Generate a memory of N records (default 5).", "N", "5");
+    const QCommandLineOption modell("model", "Model of the instrument, for types of several models.", "NAME");
     const QCommandLineOption link("link", "Symbolic link to the serial device.", "PATH");
     const QCommandLineOption drücken("press-after", "Press the send key after SECONDS.", "SECONDS");
     const QCommandLineOption baud("baud", "Pace of the printout; 0 sends at once (default 2400).", "N",
@@ -63,7 +64,7 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
     const QCommandLineOption instrument(
         "instrument", "Sorelin instrument type whose driver table builds the memory.", "TYPE");
     const QCommandLineOption treiber("db", "Database whose Sorelin driver tables to use.", "DB");
-    p.addOptions({typ, speicher, datensätze, link, drücken, baud, pause, instrument, treiber});
+    p.addOptions({typ, speicher, datensätze, modell, link, drücken, baud, pause, instrument, treiber});
     p.process(argumente);
 
     bool ok = false;
@@ -75,6 +76,8 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
         return QString("type %1 is not simulated").arg(p.value(typ));
     if (p.isSet(speicher) && p.isSet(datensätze))
         return "--memory and --records exclude each other";
+    if (p.isSet(modell) && !o.typ->speicherDesModells)
+        return QString("type %1 has no models").arg(o.typ->code);
     if (p.isSet(instrument) || p.isSet(treiber)) {
         const int nummer = p.value(instrument).toInt(&ok);
         if (code != 102 || (p.isSet(instrument) && !ok))
@@ -87,15 +90,21 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
         if (!datei.open(QIODevice::ReadOnly))
             return "cannot read " + datei.fileName() + ": " + datei.errorString();
         o.speicher = datei.readAll();
+        if (o.typ->speicherPrüfen)
+            if (const QString f = o.typ->speicherPrüfen(o.speicher, p.value(modell)); !f.isEmpty())
+                return datei.fileName() + ": " + f;
     } else {
         const int n = p.value(datensätze).toInt(&ok);
         if (!ok || n < 0)
             return "--records needs a count";
         try {
-            o.speicher = o.typ->speicherErzeugen(n);
+            o.speicher =
+                p.isSet(modell) ? o.typ->speicherDesModells(n, p.value(modell)) : o.typ->speicherErzeugen(n);
         } catch (const vemo::Fehler& f) {
             return "no memory: " + f.meldung();
         }
+        if (o.speicher.isEmpty() && p.isSet(modell))
+            return "model " + p.value(modell) + " is not simulated";
     }
     o.takt.baud = p.value(baud).toInt(&ok);
     if (!ok || o.takt.baud < 0)

@@ -1,0 +1,223 @@
+#include "links/LinkHilfen.h"
+#include "support/Testumgebung.h"
+
+#include "KontalexSpeicher.h"
+#include "core/Arbeitsdateien.h"
+#include "core/Geraetetypen.h"
+#include "grid/EinleseDatenController.h"
+#include "grid/GridBefehle.h"
+#include "host/DateiEinlesen.h"
+#include "host/Modul15a.h"
+#include "host/VerteilerListe.h"
+#include "store/Recordset.h"
+#include "store/Variant.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace vemo;
+
+namespace {
+
+QByteArray lesen(const QString& pfad) {
+    QFile f(pfad);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
+}
+
+class KontalexHostTest : public test::Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
+        neueDatenbank(true);
+        QDir(m_dir.path()).mkpath("sicherung");
+        m_komponente = std::make_unique<vemo0100Modul15a>(m_ui, m_settings);
+        m_komponente->setVemotrixDBName(m_dbPfad);
+        m_komponente->setBackupVerzeichnis(pfad("sicherung"));
+        m_komponente->setPrüfgeräteTypID(101);
+    }
+    void TearDown() override {
+        m_komponente.reset();
+        zahlformat::ausUmgebung();
+        Testumgebung::TearDown();
+    }
+
+    // The read-in rows without their keys: where, when, and the values.
+    QStringList einlesezeilen() const {
+        QStringList zeilen;
+        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
+        for (; !b.Eof(); b.MoveNext()) {
+            QString z = b.Text("AnlageNr") + "/" + b.Text("VerteilerNr") + "/" + b.Text("StromkreisNr") +
+                        " " + b.Text("Datum") + " " + b.Text("Uhrzeit") + ":";
+            Recordset w = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
+                                             b.Text("MessungID") + " ORDER BY rowid");
+            for (; !w.Eof(); w.MoveNext())
+                z += " " + w.Text("Funktion") + "=" + w.Text("wert") + w.Text("Einheit");
+            zeilen << z;
+        }
+        return zeilen;
+    }
+    // How many measurement rows of the new inspections hold the value in the column.
+    long gemessen(const QString& spalte, const QString& wert) const {
+        return this
+            ->wert("SELECT Count(*) FROM [0100_Messung] WHERE MessID >= 10000 AND [" + spalte + "] = '" +
+                   wert + "'")
+            .toLong();
+    }
+    long grenzwert(const QString& spalte, const QString& wert) const {
+        return this
+            ->wert("SELECT Count(*) FROM [0100_Grenzwert] WHERE MessID >= 10000 AND [" + spalte + "] = '" +
+                   wert + "'")
+            .toLong();
+    }
+
+    std::unique_ptr<vemo0100Modul15a> m_komponente;
+};
+
+// Every model from the instrument's memory to the inspection records: the transfer, the grid's
+// assignment of customer and plant, the take-over; the saved raw file read again gives the same
+// rows.
+TEST_F(KontalexHostTest, DerGanzeWegJedesModells) {
+    struct Fall {
+        QString modell;
+        QList<std::pair<QString, QString>> werte;
+        QList<std::pair<QString, QString>> grenzwerte;
+    };
+    const QList<Fall> fälle{
+        {"KONTALEX",
+         {{"RISO", "100"},
+          {"UISO", "512"},
+          {"LOW", "0,11"},
+          {"LOOPRS", "0,34"},
+          {"LoopIKRS", "676"},
+          {"FIIDN", "30"},
+          {"FIFaktor", "x1"},
+          {"FGRAD", "0°"},
+          {"FIT", "15"},
+          {"FIUB", "2,8"},
+          {"DREH", "Rechts"},
+          {"ErdRE", "13,5"},
+          {"ULN", "229"},
+          {"LOOPRI", "0,32"},
+          {"LoopIKRI", "830"},
+          {"FIIMESS", "26"},
+          {"LOOPNPE", "0,49"},
+          {"Messwert", "469"}},
+         {{"RISO", "1"}, {"LOW", "2"}, {"ErdRE", "100"}}},
+        {"PRAVITONIX",
+         {{"RISO", "150"},
+          {"LOW", "0,13"},
+          {"LOOPRS", "0,39"},
+          {"LoopIKRS", "590"},
+          {"LOOPRI", "0,33"},
+          {"LoopIKRI", "700"},
+          {"FIFaktor", "x1"},
+          {"FIT", "19"},
+          {"FIUB", "3,8"},
+          {"DREH", "Rechts"},
+          {"FIIMESS", "26"},
+          {"FGRAD", "180°"},
+          {"ULN", "226"}},
+         {{"RISO", ">1"}}},
+        {"Georin-Barrier Analyzer",
+         {{"ErdRE", "6"}, {"ErdRE", "7,8"}, {"RISO", "423"}, {"LOW", "0,12"}, {"ULN", "232"}},
+         {{"ErdRE", "10"}, {"LOW", "2"}}},
+        {"VOLTIRA 9KV",
+         {{"Funktion", "INSULATION RESISTANCE R"},
+          {"Messwert", "800"},
+          {"Funktion", "VOLTAGE f"},
+          {"Funktion", "DIAGNISTIC TEST PI1"},
+          {"Messwert", "1,52"}},
+         {}},
+    };
+    for (const Fall& fall : fälle) {
+        SCOPED_TRACE(fall.modell.toStdString());
+        sql("DELETE FROM [0100_Messung]; DELETE FROM [0100_Grenzwert]");
+        m_ui.meldungen.clear();
+        {
+            test::Simulator sim({"--type", "101", "--model", fall.modell, "--records", "12", "--baud", "0",
+                                 "--link", pfad("port")});
+            ASSERT_FALSE(sim.gerät().isEmpty());
+            modul().portPfad = pfad("port");
+            m_komponente->DatenEmpfangen();
+        }
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        const QStringList empfangen = einlesezeilen();
+        ASSERT_EQ(empfangen.size(), 12);
+        QFile::remove(pfad("gespeichert.sep"));
+        ASSERT_TRUE(QFile::copy(arbeitsdatei(datei::Rs232Sep), pfad("gespeichert.sep")));
+
+        EXPECT_EQ(zuordnenBefehl("1-12", "1", "1"), 0);
+        EXPECT_EQ(zuordnenBefehl("1-12", "2", "2"), 0);
+        EinleseDatenController form;
+        form.übernehmenKlick();
+        EXPECT_EQ(anzahl("0100_EinleseDaten"), 0) << "every row was taken over";
+        for (const auto& [spalte, wert] : fall.werte)
+            EXPECT_GE(gemessen(spalte, wert), 1) << spalte.toStdString() << " = " << wert.toStdString();
+        for (const auto& [spalte, wert] : fall.grenzwerte)
+            EXPECT_GE(grenzwert(spalte, wert), 1)
+                << "limit " << spalte.toStdString() << " = " << wert.toStdString();
+
+        m_ui.meldungen.clear();
+        m_komponente->EinlesenAusDateiName(pfad("gespeichert.sep"));
+        EXPECT_EQ(modul().Selektor(), selektor::Kontalex);
+        EXPECT_EQ(einlesezeilen(), empfangen);
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        sql("DELETE FROM [0100_EinleseDaten]");
+    }
+}
+
+// The transfer's working files: the record file's numbered copy is read as a Kontalex file again,
+// the rendering as a report of the printed form.
+TEST_F(KontalexHostTest, NummerierteKopieUndBerichtWerdenWiedererkannt) {
+    test::Simulator sim(
+        {"--type", "101", "--model", "KONTALEX", "--records", "3", "--baud", "0", "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    m_komponente->DatenEmpfangen();
+
+    // The rendering took the first number, the numbered copy the second.
+    EXPECT_EQ(QDir(pfad("sicherung")).entryList(QDir::Files), QStringList{"00000002.ser"});
+    EXPECT_EQ(lesen(pfad("sicherung/00000002.ser")), lesen(arbeitsdatei(datei::Rs232Txt)));
+    EXPECT_EQ(lesen(pfad("00000001.sep")), lesen(arbeitsdatei(datei::Ruvo)));
+
+    for (const QString& datei :
+         {pfad("sicherung/00000002.ser"), arbeitsdatei(datei::Rs232Sep),
+          test::quelle("samples/pravitonix-datenlogger.sep"), test::quelle("samples/voltira.ser")}) {
+        modul().Selektor() = selektor::Deutsch;
+        GeräteErkennen(datei);
+        EXPECT_EQ(modul().Selektor(), selektor::Kontalex) << datei.toStdString();
+    }
+    GeräteErkennen(pfad("00000001.sep"));
+    EXPECT_EQ(modul().Selektor(), selektor::Deutsch);
+}
+
+// The list of boards numbers its blocks provisionally and gives the numbers back; the report then
+// takes the next number for good and becomes the working dump.
+TEST_F(KontalexHostTest, VerteilerlisteMitVorlaeufigenNummern) {
+    m_settings.SaveSetting("Application", "LastFile", "LastFile = 00000041");
+    ASSERT_TRUE(QFile::copy(test::quelle("samples/georin.ser"), arbeitsdatei(datei::Rs232Txt)));
+    QFile::remove(arbeitsdatei(datei::Ruvo));
+
+    VerteilerListeSchreiben();
+
+    const QList<QByteArray> liste = lesen(arbeitsdatei(datei::Verteil)).split('\n');
+    ASSERT_EQ(liste.size(), 13);
+    EXPECT_EQ(liste[0],
+              "\"00000042\",\"1\",\"1\",\"1\",\"Anlage 1\",\"001\",\"001\",\"00:00\",\"01.01.00\"\r");
+    EXPECT_TRUE(liste[11].startsWith("\"00000053\",\"1\",\"3\",\"4\",\"\",\"\",\"004\""));
+    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000042");
+    EXPECT_TRUE(QFile::exists(pfad("00000042.sep")));
+    EXPECT_EQ(lesen(arbeitsdatei(datei::Ruvo)), lesen(pfad("00000042.sep")));
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+
+    QFile ohne(arbeitsdatei(datei::Rs232Txt));
+    ASSERT_TRUE(ohne.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    ohne.write("\"----Dateiende----\",1,1,1,1,1,1,1\r\n");
+    ohne.close();
+    VerteilerListeSchreiben();
+    EXPECT_EQ(lesen(arbeitsdatei(datei::Verteil)), QByteArray());
+    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000043");
+}
+
+} // namespace

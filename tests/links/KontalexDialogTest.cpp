@@ -1,0 +1,350 @@
+#include "LinkHilfen.h"
+#include "support/Testumgebung.h"
+
+#include "KontalexGeraet.h"
+#include "KontalexSpeicher.h"
+#include "PortLeitung.h"
+#include "PtyLeitung.h"
+#include "ansichten/Ansichten.h"
+#include "core/Arbeitsdateien.h"
+#include "links/Kontalex.h"
+#include "links/KontalexSpeicher.h"
+#include "links/KontalexText.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace vemo::test {
+namespace {
+
+// The dialog's times, shortened: three seconds of a tenth each, asking every tenth of a second.
+const Kontalex::Zeiten Schnell{3, 100, 100, 40, 200};
+// For an instrument that sends at its line's pace: a longer silence ends an answer, so that a busy
+// machine doesn't cut one between two pieces.
+const Kontalex::Zeiten AmLeitungstakt{3, 100, 100, 100, 300};
+
+class KontalexDialogTest : public Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        modul().CommPort = 1;
+        modul().Empfangsende = 0;
+        schreiben(arbeitsdatei(datei::Rs232Txt), "der letzte Lauf\r\n");
+        schreiben(arbeitsdatei(datei::Rs232Sep), "SER\x02 roh");
+    }
+    void TearDown() override {
+        EXPECT_FALSE(m_wachhund) << "the dialog did not end by itself";
+        Testumgebung::TearDown();
+    }
+
+    // Shows the dialog until it closes; one still open after ten seconds is aborted, and the test
+    // fails instead of hanging.
+    void ausführen(Kontalex& dialog) {
+        ASSERT_TRUE(dialog.laden());
+        QPointer<Kontalex> d(&dialog);
+        QTimer::singleShot(10000, &dialog, [this, d] {
+            m_wachhund = true;
+            d->abbrechen();
+        });
+        ui().zeigeModal(dialog);
+    }
+
+    static void schreiben(const QString& pfad, const QByteArray& inhalt) {
+        QFile f(pfad);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(inhalt);
+    }
+    static QByteArray lesen(const QString& pfad) {
+        QFile f(pfad);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
+    }
+    QByteArray rs232Txt() const { return lesen(arbeitsdatei(datei::Rs232Txt)); }
+    QByteArray rs232Sep() const { return lesen(arbeitsdatei(datei::Rs232Sep)); }
+
+    // The record file the transfer of that memory must give.
+    QByteArray erwarteterText(const QByteArray& speicher) const {
+        const auto s = kontalexSpeicherLesen(speicher);
+        const QString ziel = pfad("erwartet.txt");
+        if (kontalexTextSchreiben(ziel, geräteinfoLesen(s->wer),
+                                  s->blockzahl() == 0 ? QByteArray() : s->dump()))
+            loggerKopfSchreiben(ziel);
+        return lesen(ziel);
+    }
+
+    // An instrument with that memory on the in-memory line.
+    struct Speicherleitung {
+        std::unique_ptr<SpeicherCommPort> ende;
+        std::unique_ptr<sim::KontalexGerät> gerät;
+        std::unique_ptr<sim::PortLeitung> leitung;
+    };
+    static Speicherleitung einstecken(const QByteArray& speicher) {
+        Speicherleitung l;
+        l.ende = speicherleitungEinstecken(0);
+        l.gerät = std::make_unique<sim::KontalexGerät>(speicher, sim::Takt{0, 0});
+        l.leitung = std::make_unique<sim::PortLeitung>(*l.ende, *l.gerät);
+        return l;
+    }
+
+    bool m_wachhund = false;
+};
+
+TEST_F(KontalexDialogTest, OhneGeraetSchliesstDieWartezeitMitAbbruch) {
+    QString fehler;
+    const auto leitung = sim::PtyLeitung::öffnen(fehler); // a line with nobody behind it
+    ASSERT_TRUE(leitung) << fehler.toStdString();
+    modul().portPfad = leitung->gerätePfad();
+    Kontalex dialog(Schnell);
+    QStringList sekunden;
+    QObject::connect(&dialog, &Kontalex::aktualisiert, [&] {
+        if (sekunden.isEmpty() || sekunden.last() != dialog.sekunden())
+            sekunden << dialog.sekunden();
+    });
+
+    ausführen(dialog);
+
+    EXPECT_TRUE(dialog.abgebrochen());
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_EQ(modul().Empfangsende, 1);
+    EXPECT_EQ(sekunden, (QStringList{"3", "2", "1", "0"}));
+    EXPECT_EQ(dialog.zustand(), "Gerät nicht bereit !");
+    EXPECT_EQ(dialog.kennung(), "Identifikation...");
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(rs232Txt(), "der letzte Lauf\r\n") << "an abort keeps the files of the last run";
+    EXPECT_EQ(rs232Sep(), "SER\x02 roh");
+    EXPECT_EQ(m_ui.dialoge, QStringList{"vemo::Kontalex"});
+}
+
+// Each model over the pseudo-terminal: the raw file is the memory byte for byte, the record file
+// holds its groups, with blanks where a group repeats the numbers before it.
+TEST_F(KontalexDialogTest, JedesModellUebertraegtSeinenSpeicher) {
+    const QList<std::pair<QString, QByteArrayList>> modelle{
+        {"KONTALEX",
+         {"1,1,2,\"\",\"\",\"002\",\"08:01\",\"17.03.2024\"\r\n",
+          "1,2,1,\"\",\"002\",\"001\",\"08:04\",\"17.03.2024\"\r\n",
+          "\"R ISO\",\"M\",\"R\",\"100\",\"MOhm\",1,1,1\r\n",
+          "\"KONTALEX\",\"STD\",\"2.14\",\"HW 3\",\"11840217\""}},
+        {"PRAVITONIX",
+         {"1,1,1,\"Anlage 1\",\"001\",\"001\",\"00:00\",\"01.01.00\"\r\n", "\"No Language\",1\r\n"}},
+        {"Georin-Barrier Analyzer", {"\"R EARTH GEORTEST\",\"M\",\"Re\",\"6.0\",\"Ohm\",1,1,1\r\n"}},
+        {"VOLTIRA 9KV", {"0,0,1000,\"\",\"\",\"1000\",\"08:02\",\"17.03.2024\"\r\n"}},
+    };
+    for (const auto& [modell, zeilen] : modelle) {
+        SCOPED_TRACE(modell.toStdString());
+        modul().Abbruchmerker = 0;
+        modul().Empfangsende = 0;
+        const QByteArray speicher = sim::kontalexSpeicher(9, modell);
+        schreiben(pfad("speicher.sep"), speicher);
+        // The first instrument at its line speed, the others as fast as the line takes it.
+        const QString baud = modell == "KONTALEX" ? "9600" : "0";
+        Simulator sim({"--type", "101", "--model", modell, "--memory", pfad("speicher.sep"), "--baud", baud,
+                       "--link", pfad("port")});
+        ASSERT_FALSE(sim.gerät().isEmpty());
+        modul().portPfad = pfad("port");
+        Kontalex dialog(baud == "0" ? Schnell : AmLeitungstakt);
+
+        ausführen(dialog);
+
+        EXPECT_FALSE(dialog.abgebrochen());
+        EXPECT_EQ(modul().Abbruchmerker, 0);
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        EXPECT_EQ(rs232Sep(), speicher);
+        const QByteArray text = rs232Txt();
+        EXPECT_EQ(text, erwarteterText(speicher));
+        EXPECT_EQ(text.count("Start Verteiler"), 9);
+        for (const QByteArray& zeile : zeilen)
+            EXPECT_TRUE(text.contains(zeile)) << zeile.toStdString();
+        EXPECT_EQ(dialog.blocknummer(), "9");
+        EXPECT_EQ(dialog.prozent(), 100);
+        EXPECT_FALSE(dialog.keineDaten());
+    }
+}
+
+TEST_F(KontalexDialogTest, LeererSpeicherGibtNurDieEndzeile) {
+    Simulator sim(
+        {"--type", "101", "--model", "PRAVITONIX", "--records", "0", "--baud", "0", "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    Kontalex dialog(Schnell);
+
+    ausführen(dialog);
+
+    EXPECT_TRUE(dialog.keineDaten());
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(rs232Txt(), "\"----Dateiende----\",1,1,1,1,1,1,1\r\n");
+    EXPECT_EQ(rs232Sep(), sim::kontalexSpeicher(0, "PRAVITONIX"));
+}
+
+// The instrument goes in the middle of the transfer: nothing ends the wait for the block but the
+// abort button, and the record file of the last run stays.
+TEST_F(KontalexDialogTest, GezogenesKabelHaengtNichtUndAbbruchBeendet) {
+    const QByteArray speicher = sim::kontalexSpeicher(40, "KONTALEX");
+    schreiben(pfad("speicher.sep"), speicher);
+    Simulator sim(
+        {"--type", "101", "--memory", pfad("speicher.sep"), "--baud", "2400", "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    Kontalex dialog(Schnell);
+    bool gezogen = false;
+    QObject::connect(&dialog, &Kontalex::aktualisiert, [&] {
+        if (gezogen || dialog.blocknummer() != "2")
+            return;
+        gezogen = true;
+        sim.kabelZiehen();
+        QTimer::singleShot(300, &dialog, &Kontalex::abbrechen);
+    });
+
+    ausführen(dialog);
+
+    EXPECT_TRUE(gezogen);
+    EXPECT_TRUE(dialog.abgebrochen());
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << "a dead line is silence";
+    EXPECT_EQ(rs232Txt(), "der letzte Lauf\r\n");
+    const QByteArray roh = rs232Sep();
+    EXPECT_GT(roh.size(), speicher.indexOf("SRE") + 2);
+    EXPECT_LT(roh.size(), speicher.size());
+    EXPECT_TRUE(speicher.startsWith(roh));
+}
+
+TEST_F(KontalexDialogTest, MitteImBlockAbgerissenEndetMitDemAbbruch) {
+    auto l = einstecken(sim::kontalexSpeicher(5, "KONTALEX"));
+    l.gerät->setAbbruchNachBlöcken(2);
+    Kontalex dialog(Schnell);
+    bool abgerissen = false;
+    QObject::connect(&dialog, &Kontalex::aktualisiert, [&] {
+        if (abgerissen || dialog.blocknummer() != "2")
+            return;
+        abgerissen = true;
+        QTimer::singleShot(200, &dialog, &Kontalex::abbrechen);
+    });
+
+    ausführen(dialog);
+
+    EXPECT_TRUE(dialog.abgebrochen());
+    EXPECT_EQ(l.gerät->befehle().count("MRE"), 3);
+    EXPECT_EQ(rs232Txt(), "der letzte Lauf\r\n");
+    const auto roh = kontalexSpeicherLesen(rs232Sep());
+    ASSERT_TRUE(roh.has_value());
+    ASSERT_EQ(roh->blöcke.size(), 3);
+    EXPECT_LT(roh->blöcke[2].size(), 4 + quint8(roh->blöcke[2][3])) << "the third block is cut";
+}
+
+// Instruments that misbehave: a block count beyond 16 bits, a refused start, a block that
+// announces one more behind the end, a model that doesn't confirm the end.
+TEST_F(KontalexDialogTest, FehlverhaltenDerGeraete) {
+    {
+        SCOPED_TRACE("count overflows");
+        QByteArray speicher = sim::kontalexSpeicher(2, "KONTALEX");
+        speicher[4] = char(0x80);
+        auto l = einstecken(speicher);
+        Kontalex dialog(Schnell);
+        ausführen(dialog);
+        EXPECT_EQ(m_ui.texte(), QStringList{"Überlauf"});
+        EXPECT_EQ(modul().Abbruchmerker, 1);
+        EXPECT_FALSE(dialog.abgebrochen());
+        EXPECT_FALSE(l.gerät->befehle().contains("MWH"));
+        EXPECT_EQ(rs232Txt(), "der letzte Lauf\r\n");
+    }
+    {
+        SCOPED_TRACE("start refused");
+        m_ui.meldungen.clear();
+        modul().Abbruchmerker = 0;
+        auto s = *kontalexSpeicherLesen(sim::kontalexSpeicher(2, "KONTALEX"));
+        s.start = sim::kontalex::Abgelehnt;
+        auto l = einstecken(s.rohdatei());
+        Kontalex dialog(Schnell);
+        ausführen(dialog);
+        EXPECT_EQ(l.gerät->befehle(), (QStringList{"MRD", "MNU", "MWH", "MSS", "MEX"}));
+        EXPECT_EQ(modul().Abbruchmerker, 0);
+        EXPECT_EQ(rs232Txt(), "\"----Dateiende----\",1,1,1,1,1,1,1\r\n");
+    }
+    {
+        SCOPED_TRACE("one block more, with the logger");
+        m_ui.meldungen.clear();
+        const sim::Messung logger{102, {{'P', 136, 8, "60"}, {'R', 135, 101, "231"}}};
+        const QByteArray loggerblock = sim::kontalexBlock(Blockform::Kurz, {1, 1, 1, "", ""}, logger);
+        ASSERT_EQ(loggerblock[8], 'f') << "the logger's function code stands in the ninth byte";
+        const QByteArray zusatz = sim::kontalexBlock(Blockform::Kurz, {1, 1, 2, "", ""}, logger);
+        auto l = einstecken(sim::kontalexRohdatei("PRAVITONIX", {loggerblock})
+                                .replace(sim::kontalex::Endblock, sim::kontalex::Endblock + zusatz));
+        Kontalex dialog(Schnell);
+        ausführen(dialog);
+        EXPECT_EQ(l.gerät->befehle().count("MRE"), 3);
+        const QByteArray text = rs232Txt();
+        EXPECT_TRUE(text.startsWith("\"Datenlogger PRAVITONIX\","));
+        EXPECT_EQ(text.count("Start Verteiler"), 2);
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    }
+    {
+        SCOPED_TRACE("end not confirmed");
+        m_ui.meldungen.clear();
+        auto s = *kontalexSpeicherLesen(sim::kontalexSpeicher(1, "KONTALEX"));
+        s.ende.clear();
+        auto l = einstecken(s.rohdatei());
+        Kontalex dialog(Schnell);
+        ausführen(dialog);
+        EXPECT_EQ(m_ui.texte(), QStringList{"TimeOut"});
+        EXPECT_EQ(modul().Abbruchmerker, 0);
+        EXPECT_EQ(rs232Txt().count("Start Verteiler"), 1) << "a time-out counts as done";
+    }
+}
+
+TEST_F(KontalexDialogTest, FehlenderPortWirdGemeldetUndNichtGezeigt) {
+    modul().portPfad = pfad("kein-port");
+    Kontalex dialog(Schnell);
+    EXPECT_FALSE(dialog.laden());
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("Ungültige Anschlussnummer"))
+        << "the text without its number";
+    EXPECT_TRUE(m_ui.dialoge.isEmpty());
+}
+
+TEST_F(KontalexDialogTest, FensterZeigtDenDialogUndBrichtAb) {
+    QString fehler;
+    const auto leitung = sim::PtyLeitung::öffnen(fehler);
+    ASSERT_TRUE(leitung) << fehler.toStdString();
+    modul().portPfad = leitung->gerätePfad();
+    QtUi qtUi(ansichten());
+    modul().ui = &qtUi;
+    Kontalex dialog({30, 1000, 100, 150, 300});
+    ASSERT_TRUE(dialog.laden());
+    QMap<QString, QString> texte;
+    QTimer::singleShot(350, [&] {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (w->objectName() != "Kontalex" || !w->isVisible())
+                continue;
+            texte["Titel"] = w->windowTitle();
+            for (const QLabel* l : w->findChildren<QLabel*>())
+                texte[l->objectName()] = l->text();
+            if (auto* knopf = w->findChild<QPushButton*>("Command1")) {
+                texte["Command1"] = knopf->text();
+                QTest::mouseClick(knopf, Qt::LeftButton);
+            }
+        }
+    });
+    QTimer::singleShot(5000, &dialog, [&] {
+        m_wachhund = true;
+        dialog.abbrechen();
+    });
+
+    qtUi.zeigeModal(dialog);
+    modul().ui = &m_ui;
+
+    EXPECT_TRUE(dialog.abgebrochen()) << "the button is Command1";
+    EXPECT_EQ(texte["Titel"], "vemotrix professional - Serielle Datenübertragung");
+    EXPECT_EQ(texte["Command1"], "&Abbruch");
+    EXPECT_EQ(texte["Label9"], "Gerät nicht bereit !");
+    EXPECT_EQ(texte["Label1"], "Identifikation...");
+    EXPECT_EQ(texte["Label6"], "30");
+    EXPECT_EQ(texte["Label2"], "Baudrate");
+    EXPECT_EQ(texte["Label5"], "Abbruch in");
+}
+
+} // namespace
+} // namespace vemo::test

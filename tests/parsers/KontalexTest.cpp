@@ -1,0 +1,209 @@
+#include "core/Arbeitsdateien.h"
+#include "core/Satzdatei.h"
+#include "parsers/EinlesenVonDatei.h"
+#include "platform/Zahlformat.h"
+#include "store/Recordset.h"
+#include "store/Variant.h"
+#include "support/Testumgebung.h"
+#include "takeover/MesswertUebernehmen.h"
+
+#include <QFile>
+
+using namespace vemo;
+
+namespace {
+
+// Reads record files of the command-protocol instruments as the driver does after a transfer or a
+// file copy, and shows the read-in rows compactly: "plant board circuit time date: Funktion=wert
+// Einheit | ...", one text a block in key order.
+class KontalexEinlesen : public test::Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
+        modul().Selektor() = "Multitester = Kontalex";
+    }
+    void TearDown() override {
+        zahlformat::ausUmgebung();
+        Testumgebung::TearDown();
+    }
+
+    void probeLesen(const QString& probe, const QString& dateiname = {}) {
+        QFile::remove(arbeitsdatei(datei::Rs232Txt));
+        ASSERT_TRUE(QFile::copy(test::quelle("samples/" + probe), arbeitsdatei(datei::Rs232Txt)));
+        starten(dateiname);
+    }
+    void satzdateiLesen(const QList<QByteArray>& zeilen, const QString& dateiname = {}) {
+        QFile f(arbeitsdatei(datei::Rs232Txt));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        for (const QByteArray& z : zeilen)
+            f.write(z);
+        f.close();
+        starten(dateiname);
+    }
+    void starten(const QString& dateiname) {
+        modul().dateinameGewählt = dateiname;
+        modul().aktuellesPrüfgerät = 0;
+        modul().Abbruchmerker = 0;
+        modul().DatenloggerMode = false;
+        m_ui.meldungen.clear();
+        EinlesenVonDatei();
+    }
+
+    QStringList blöcke() const {
+        QStringList ergebnis;
+        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
+        for (; !b.Eof(); b.MoveNext()) {
+            QStringList werte;
+            Recordset w = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
+                                             b.Text("MessungID") + " ORDER BY rowid");
+            for (; !w.Eof(); w.MoveNext())
+                werte << (w.Text("Funktion") + "=" + w.Text("wert") + " " + w.Text("Einheit")).trimmed();
+            ergebnis << QStringList{b.Text("AnlageNr"), b.Text("VerteilerNr"), b.Text("StromkreisNr"),
+                                    b.Text("Uhrzeit"), b.Text("Datum")}
+                                .join(' ') +
+                            ": " + werte.join(" | ");
+        }
+        return ergebnis;
+    }
+
+    static QByteArray marke(const QString& m) { return satzzeile({m, 1, 1, 1, 1, 1, 1, 1}); }
+    static QList<QByteArray> gerät(const QString& modell, const QString& seriennummer) {
+        return {marke(kontalexsatz::Gerätemarke),
+                satzzeile({modell, "STD", "2.14", "HW 3", seriennummer, "01.2024", "Deutsch", 1})};
+    }
+    static QList<QByteArray> block(int objekt, int stromkreis, const QString& platz,
+                                   const QList<QStringList>& werte = {}) {
+        QList<QByteArray> z{marke(kontalexsatz::Blockmarke),
+                            satzzeile({objekt, stromkreis, platz, "", "", "", "09:15", "18.03.2024"})};
+        for (const QStringList& w : werte)
+            z << satzzeile({w[0], w[1], w[2], w[3], w[4], 1, 1, 1});
+        return z;
+    }
+};
+
+TEST_F(KontalexEinlesen, ProbenJedesModells) {
+    probeLesen("kontalex.ser");
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    const QStringList k = blöcke();
+    ASSERT_EQ(k.size(), 12);
+    EXPECT_EQ(k[0], "001 0001 0001 08:00 17.03.2024: R ISO, M, R=100 MOhm | R ISO, M, U=512 V | "
+                    "R ISO, E, Un=500 V | R ISO, G, R=1 MOhm");
+    EXPECT_EQ(k[3],
+              "001 0001 0004 08:03 17.03.2024: RCD t, E, Idn=30 mA | RCD t, E, mult.:=x1 | "
+              "RCD t, E, phase:= 0° | RCD t, E, type := General | RCD t, M, t=15 ms | RCD t, M, Uci=2,8 V");
+    EXPECT_EQ(k[9], "001 0003 0002 08:09 17.03.2024: R LOOP N-PE, M, R=0,49 Ohm | R LOOP N-PE, M, Isc=469 A");
+    EXPECT_EQ(
+        wert("SELECT PrüfgerätName & '|' & Versionsnummer & '|' & Seriennummer FROM 0100_EinleseGeräteDaten"),
+        "KONTALEX|2.14|11840217");
+    // A serial transfer registers the instrument under the name of its model, and remembers it.
+    EXPECT_EQ(wert("SELECT Bezeichnung & '|' & typ FROM Prüfgerät"), "0100-KONTAlex|101");
+    EXPECT_EQ(m_settings.GetSetting("Application", "PrüfgeräteID"), "10000");
+
+    for (const auto& [probe, bezeichnung, erster] :
+         {std::tuple{"pravitonix.ser", "0100-PRAVITonix",
+                     "001 0001 0001 00:00 01.01.00: R ISO, M, R=150 MOhm | R ISO, E, Un=500 V"},
+          std::tuple{
+              "georin.ser", "GEORIN-Btest",
+              "001 0001 0001 00:00 01.01.00: R EARTH GEORTEST, M, Re=6 Ohm | R EARTH GEORTEST, E, Un=48 V"},
+          std::tuple{"voltira.ser", "VOLTIra 9KV",
+                     " 0000 0998 08:00 17.03.2024: INSULATION RESISTANCE, M, R=800 MOhm | "
+                     "INSULATION RESISTANCE, M, U=5000 V | INSULATION RESISTANCE, M, I=4 nA | "
+                     "INSULATION RESISTANCE, M, C=22 nF"}}) {
+        SCOPED_TRACE(probe);
+        sql("DELETE FROM [0100_EinleseDaten]");
+        probeLesen(probe);
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        const QStringList b = blöcke();
+        ASSERT_EQ(b.size(), 12);
+        EXPECT_EQ(b[0], erster);
+        EXPECT_EQ(wert(QString("SELECT Count(*) FROM Prüfgerät WHERE Bezeichnung = '%1'").arg(bezeichnung)),
+                  "1");
+    }
+    // The high-voltage tester's places go into the circuit as they stand, past 999.
+    EXPECT_EQ(blöcke()[2].left(16), " 0000 1000 08:02");
+}
+
+// Every name the models give is known to the take-over: a row of the table, or a text block.
+TEST_F(KontalexEinlesen, HostdatenKennenJedenFunktionsnamenDerProben) {
+    for (const QString probe : {"kontalex.ser", "pravitonix.ser", "georin.ser", "voltira.ser"})
+        probeLesen(probe);
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 48);
+    Recordset namen = db().OpenRecordset("SELECT DISTINCT Funktion FROM 0100_EinleseMessDaten WHERE Funktion "
+                                         "NOT IN (SELECT TeilFunktion FROM 0100_TeilFunktion)");
+    int textblöcke = 0;
+    for (; !namen.Eof(); namen.MoveNext()) {
+        if (istTextblock(namen.Text("Funktion")))
+            ++textblöcke;
+        else
+            ADD_FAILURE() << "no host data for " << namen.Text("Funktion").toStdString();
+    }
+    EXPECT_GT(textblöcke, 10) << "the high-voltage tester's names";
+}
+
+// What the parser makes of its edge cases: a serial group anywhere in the number, a comment behind
+// "!", board 0, a value whose function begins with "-", a block without values, a model with
+// trailing blanks.
+TEST_F(KontalexEinlesen, GrenzfaelleDesSatzformats) {
+    QList<QByteArray> datei = gerät("VOLTIRA 9KV  ", "HV-1153");
+    datei += block(1, 0, "12345", {{"VOLTAGE", "M", "U", "12!3", "kV"}});
+    datei += block(2, 7, "8");
+    datei += block(2, 7, "9",
+                   {{"VOLTAGE", "M", "f", "50", "Hz"},
+                    {"-VOLTAGE", "M", "U", "1", "V"},
+                    {"VOLTAGE", "M", "U", "2", "V"}});
+    datei += block(0, 5, "0", {{"VOLTAGE", "M", "U", "3", "V"}});
+    datei += marke(kontalexsatz::Endemarke);
+    satzdateiLesen(datei, "/media/stick/00000007.ser");
+
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(blöcke(), (QStringList{
+                            "001 0000 2345 09:15 18.03.2024: VOLTAGE, M, U=12 kV",
+                            "002 0007 0008 09:15 18.03.2024: ",
+                            "002 0007 0009 09:15 18.03.2024: VOLTAGE, M, f=50 Hz",
+                            " 0005 0000 09:15 18.03.2024: VOLTAGE, M, U=3 V",
+                        }));
+    EXPECT_EQ(wert("SELECT PrüfgerätName FROM 0100_EinleseGeräteDaten"), "VOLTIRA 9KV  ");
+    EXPECT_EQ(anzahl("Prüfgerät"), 0) << "a file's instrument stays out of the register";
+
+    sql("DELETE FROM [0100_EinleseDaten]");
+    datei[1] = satzzeile({"KONTALEX", "STD", "2.14", "HW 3", "KX-1153", "01.2024", "Deutsch", 1});
+    satzdateiLesen(datei);
+    EXPECT_EQ(blöcke()[0], "001 0000 0345 09:15 18.03.2024: VOLTAGE, M, U=12 kV")
+        << "other models keep three digits of the place";
+}
+
+TEST_F(KontalexEinlesen, UnbekanntesGeraetUndLoggerdateiSchreibenNichts) {
+    QList<QByteArray> datei = gerät("KONTALEX", "99-1160");
+    datei += block(1, 1, "1", {{"R ISO", "M", "R", "245", "MOhm"}});
+    datei += marke(kontalexsatz::Endemarke);
+    satzdateiLesen(datei);
+    EXPECT_EQ(m_ui.texte(), QStringList{"Unbekanntes Prüfgerät"});
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten") + anzahl("0100_EinleseDaten") + anzahl("Prüfgerät"), 0);
+
+    datei.prepend(satzzeile({kontalexsatz::Loggerkopf, 2, 1, 1, 1, 1, 1, 1}));
+    datei[2] = satzzeile({"PRAVITONIX", "STD", "2.14", "HW 3", "11731544", "01.2024", "No Language", 1});
+    satzdateiLesen(datei);
+    EXPECT_TRUE(modul().DatenloggerMode);
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten") + anzahl("0100_EinleseDaten"), 0);
+}
+
+// A file that breaks off keeps what was read; the broken read is told once and the walk ends.
+TEST_F(KontalexEinlesen, AbgebrocheneDateiBehaeltIhreZeilen) {
+    QList<QByteArray> datei = gerät("KONTALEX", "11840217");
+    datei += block(1, 1, "1", {{"R ISO", "M", "R", "245", "MOhm"}, {"R ISO", "M", "U", "512", "V"}});
+    datei += block(1, 1, "2", {{"Z LOOP", "M", "Z", "0.35", "Ohm"}});
+    datei += "\"Z LOOP\",\"M\",\"Isc\",\"65";
+    satzdateiLesen(datei);
+
+    EXPECT_EQ(blöcke(),
+              (QStringList{"001 0001 0001 09:15 18.03.2024: R ISO, M, R=245 MOhm | R ISO, M, U=512 V",
+                           "001 0001 0002 09:15 18.03.2024: Z LOOP, M, Z=0,35 Ohm"}));
+    EXPECT_EQ(m_ui.texte(), QStringList{"62Einlesen hinter Dateiende"});
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+}
+
+} // namespace
