@@ -2,6 +2,7 @@
 
 #include "grid/EinleseDatenAnsicht.h"
 #include "links/Form2Ansicht.h"
+#include "links/ZemakAnsicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
 
@@ -12,6 +13,7 @@ const Ansichtstabelle& ansichten() {
     static const Ansichtstabelle tabelle{
         {"vemo::EinleseDatenController", einleseDatenAnsicht},
         {"vemo::Form2", &Form2Ansicht::erstellen},
+        {"vemo::frmZEMAK", &ZemakAnsicht::erstellen},
         {"vemo::frmTeilFunktion",
          [](DialogController& c, QWidget* p) {
              return new TeilFunktionAnsicht(static_cast<frmTeilFunktion&>(c), p);

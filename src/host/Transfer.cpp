@@ -4,6 +4,7 @@
 #include "core/ModulState.h"
 #include "host/Dateinummern.h"
 #include "links/DumpEmpfang.h"
+#include "links/ZemakDialog.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Ui.h"
 #include "store/Variant.h"
@@ -22,14 +23,22 @@ Ausgang nochNichtVerfügbar() {
     return Ausgang::Verlassen;
 }
 
+// The query dialog of the 37xx instrument of the selector; Abbruchmerker tells the outcome.
+Ausgang zemakAbfrage() {
+    const Zemakvariante* variante = zemakVariante(modul().Selektor());
+    Q_ASSERT(variante);
+    zemakÜbertragen(*variante);
+    return Ausgang::Weiter;
+}
+
 // The link of each selector that has a dialog of its own; every other selector is received as a
 // printed dump.
 const std::map<QString, std::function<Ausgang()>>& verbindungen() {
     static const std::map<QString, std::function<Ausgang()>> tabelle{
-        {selektor::Kontalex, nochNichtVerfügbar},   {selektor::Sorelin, nochNichtVerfügbar},
-        {selektor::Zemak, nochNichtVerfügbar},      {selektor::Zemak3710B, nochNichtVerfügbar},
-        {selektor::Zemak3720, nochNichtVerfügbar},  {selektor::Zemak3740, nochNichtVerfügbar},
-        {selektor::Quentavoir, nochNichtVerfügbar},
+        {selektor::Kontalex, nochNichtVerfügbar}, {selektor::Sorelin, nochNichtVerfügbar},
+        {selektor::Zemak, zemakAbfrage},          {selektor::Zemak3710B, zemakAbfrage},
+        {selektor::Zemak3720, zemakAbfrage},      {selektor::Zemak3740, zemakAbfrage},
+        {selektor::Quentavoir, zemakAbfrage},
     };
     return tabelle;
 }

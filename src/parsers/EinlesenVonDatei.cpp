@@ -18,13 +18,24 @@ void nochNichtMöglich() {
     modul().Abbruchmerker = 1;
 }
 
+// The 37xx instruments are received, but their records are not read yet: the user is told, and
+// the run goes on, so that the working file gets its numbered copy and nothing received is lost.
+void zemakNochNichtLesbar() {
+    ui().MsgBox(xText("Diese Version kann die Messungen dieses Prüfgeräts noch nicht einlesen. "
+                      "Die übertragenen Daten bleiben in der Datei erhalten."),
+                modul().anwendungstitel);
+}
+
 // The parser of each Selektor; any selector not listed reads the Multitester report format.
 const QHash<QString, Parser>& parserDerSelektoren() {
     static const QHash<QString, Parser> tabelle{
-        {"Multitester = Kontalex", nochNichtMöglich},    {"Multitester = Sorelin", nochNichtMöglich},
-        {"Multitester = ZEMAK 3710B", nochNichtMöglich}, {"Multitester = ZEMAK 3720", nochNichtMöglich},
-        {"Multitester = ZEMAK 3740", nochNichtMöglich},  {"Multitester = Quentavoir", nochNichtMöglich},
-        {"Multitester = ZEMAK", nochNichtMöglich},
+        {"Multitester = Kontalex", nochNichtMöglich},
+        {"Multitester = Sorelin", nochNichtMöglich},
+        {"Multitester = ZEMAK 3710B", zemakNochNichtLesbar},
+        {"Multitester = ZEMAK 3720", zemakNochNichtLesbar},
+        {"Multitester = ZEMAK 3740", zemakNochNichtLesbar},
+        {"Multitester = Quentavoir", zemakNochNichtLesbar},
+        {"Multitester = ZEMAK", zemakNochNichtLesbar},
     };
     return tabelle;
 }
