@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "links/Form2.h"
+#include "links/ZemakDialog.h"
 
 #include <QSocketNotifier>
 #include <csignal>
@@ -32,6 +33,8 @@ Empfangskonsole::Empfangskonsole(bool immerJa) : KonsolenUi(immerJa) {
         [[maybe_unused]] const ssize_t n = ::read(ctrlC[1], &c, 1);
         if (m_form)
             m_form->abbrechen();
+        else if (m_abfrage)
+            m_abfrage->abbrechen();
         else
             modul().Abbruchmerker = 1; // not waiting yet: the reception will not start
     });
@@ -73,10 +76,37 @@ void Empfangskonsole::zeigeNichtModal(DialogController& dialog) {
     hinweisZeigen();
 }
 
-// The hint once each time it changes; the blinking of the window has no meaning here.
-void Empfangskonsole::hinweisZeigen() {
-    if (!m_form || m_form->hinweis().isEmpty() || m_form->hinweis() == m_gezeigt)
+int Empfangskonsole::zeigeModal(DialogController& dialog) {
+    if (auto* abfrage = qobject_cast<frmZEMAK*>(&dialog)) {
+        m_abfrage = abfrage;
+        std::fprintf(stderr, "%s\n", abfrage->titel().toLocal8Bit().constData());
+        QObject::connect(abfrage, &DialogController::aktualisiert, abfrage, [this] { abfrageZeigen(); });
+        abfrageZeigen();
+    }
+    return KonsolenUi::zeigeModal(dialog);
+}
+
+void Empfangskonsole::neueZeile(const QString& text, QString& zuletzt) {
+    if (text.isEmpty() || text == zuletzt)
         return;
-    m_gezeigt = m_form->hinweis();
-    std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+    zuletzt = text;
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+// The blinking of the window has no meaning here.
+void Empfangskonsole::hinweisZeigen() {
+    if (m_form)
+        neueZeile(m_form->hinweis(), m_gezeigt);
+}
+
+void Empfangskonsole::abfrageZeigen() {
+    if (!m_abfrage)
+        return;
+    neueZeile(m_abfrage->gerätezustand(), m_zustand);
+    neueZeile(m_abfrage->hinweis(), m_gezeigt);
+    const QString prozent = m_abfrage->prozent().trimmed();
+    if (prozent.isEmpty())
+        return;
+    const QString zehner = QString::number(prozent.chopped(1).toInt() / 10 * 10) + "%";
+    neueZeile(zehner, m_prozentZehner);
 }

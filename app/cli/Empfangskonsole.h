@@ -8,22 +8,31 @@ class QSocketNotifier;
 
 namespace vemo {
 class Form2;
-}
+class frmZEMAK;
+} // namespace vemo
 
 // The console of a reception from the instrument: Ctrl-C is the dialog's abort button and ends the
 // transfer as that button does, never by killing the program mid-write; Enter is the Enter of the
-// dialog's text box. What the dialog tells the user appears on stderr.
+// dump dialog's text box. What the dialog tells the user appears on stderr, each text once when
+// it changes; the percentage of a memory query in steps of ten.
 class Empfangskonsole : public vemo::KonsolenUi {
 public:
     explicit Empfangskonsole(bool immerJa);
     ~Empfangskonsole() override;
 
     void zeigeNichtModal(vemo::DialogController& dialog) override;
+    int zeigeModal(vemo::DialogController& dialog) override;
 
 private:
     void hinweisZeigen();
+    void abfrageZeigen();
+    // Writes the text when it differs from the one shown last in its place.
+    static void neueZeile(const QString& text, QString& zuletzt);
 
     QPointer<vemo::Form2> m_form;
+    QPointer<vemo::frmZEMAK> m_abfrage;
+    QString m_zustand;
+    QString m_prozentZehner;
     QSocketNotifier* m_abbruch = nullptr;
     QSocketNotifier* m_eingabe = nullptr;
     QString m_gezeigt;
