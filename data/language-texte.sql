@@ -35,6 +35,8 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Messdaten Kopf fehlt', 'Measurement data header missing'),
   ('Unbekanntes Prüfgerät', 'Unknown instrument'),
   ('Ihr Treiber ist nicht aktuell', 'Your driver is out of date'),
+  ('Diese Version kann die Messungen dieses Prüfgeräts noch nicht einlesen. Die übertragenen Daten bleiben in der Datei erhalten.',
+   'This version cannot read the measurements of this instrument yet. The data transferred are kept in the file.'),
   ('Version', 'Version');
 
 -- What the Sorelin block transfer and its parser tell of an image they cannot read.

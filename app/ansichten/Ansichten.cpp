@@ -4,6 +4,7 @@
 #include "links/Form2Ansicht.h"
 #include "links/KontalexAnsicht.h"
 #include "links/SorelinAnsicht.h"
+#include "links/ZemakAnsicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
 
@@ -14,6 +15,7 @@ const Ansichtstabelle& ansichten() {
     static const Ansichtstabelle tabelle{
         {"vemo::EinleseDatenController", einleseDatenAnsicht},
         {"vemo::Form2", &Form2Ansicht::erstellen},
+        {"vemo::frmZEMAK", &ZemakAnsicht::erstellen},
         {"vemo::frmTeilFunktion",
          [](DialogController& c, QWidget* p) {
              return new TeilFunktionAnsicht(static_cast<frmTeilFunktion&>(c), p);

@@ -4,6 +4,7 @@
 #include "links/Form2.h"
 #include "links/Kontalex.h"
 #include "links/SorelinUebertragung.h"
+#include "links/ZemakDialog.h"
 
 #include <QSocketNotifier>
 #include <QTimer>
@@ -40,6 +41,8 @@ Empfangskonsole::Empfangskonsole(bool immerJa) : KonsolenUi(immerJa) {
             m_sorelin->abbrechen();
         else if (m_kontalex)
             m_kontalex->abbrechen();
+        else if (m_abfrage)
+            m_abfrage->abbrechen();
         else
             modul().Abbruchmerker = 1; // the run ends as aborted, and a wait still to come at once
     });
@@ -87,12 +90,29 @@ void Empfangskonsole::zeigeNichtModal(DialogController& dialog) {
     hinweisZeigen();
 }
 
-// The hint once each time it changes; the blinking of the window has no meaning here.
-void Empfangskonsole::hinweisZeigen() {
-    if (!m_form || m_form->hinweis().isEmpty() || m_form->hinweis() == m_gezeigt)
+void Empfangskonsole::neueZeile(const QString& text, QString& zuletzt) {
+    if (text.isEmpty() || text == zuletzt)
         return;
-    m_gezeigt = m_form->hinweis();
-    std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+    zuletzt = text;
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+// The blinking of the window has no meaning here.
+void Empfangskonsole::hinweisZeigen() {
+    if (m_form)
+        neueZeile(m_form->hinweis(), m_gezeigt);
+}
+
+void Empfangskonsole::abfrageZeigen() {
+    if (!m_abfrage)
+        return;
+    neueZeile(m_abfrage->gerätezustand(), m_zustand);
+    neueZeile(m_abfrage->hinweis(), m_gezeigt);
+    const QString prozent = m_abfrage->prozent().trimmed();
+    if (prozent.isEmpty())
+        return;
+    const QString zehner = QString::number(prozent.chopped(1).toInt() / 10 * 10) + "%";
+    neueZeile(zehner, m_prozentZehner);
 }
 
 // The modal transfer dialogs: their title, then each change of what they show; a Ctrl-C that came
@@ -105,6 +125,13 @@ int Empfangskonsole::zeigeModal(DialogController& dialog) {
         sendTextZeigen();
         if (m_ctrlC)
             QTimer::singleShot(0, sorelin, &frmSorelin::abbrechen);
+    } else if (auto* abfrage = qobject_cast<frmZEMAK*>(&dialog)) {
+        m_abfrage = abfrage;
+        std::fprintf(stderr, "%s\n", abfrage->titel().toLocal8Bit().constData());
+        QObject::connect(abfrage, &DialogController::aktualisiert, abfrage, [this] { abfrageZeigen(); });
+        abfrageZeigen();
+        if (m_ctrlC)
+            QTimer::singleShot(0, abfrage, &frmZEMAK::abbrechen);
     } else if (auto* kontalex = qobject_cast<Kontalex*>(&dialog)) {
         m_kontalex = kontalex;
         std::fprintf(stderr, "%s\n", kontalex->titel().toLocal8Bit().constData());
@@ -117,10 +144,8 @@ int Empfangskonsole::zeigeModal(DialogController& dialog) {
 
 // The block transfer's prompt whenever it changes.
 void Empfangskonsole::sendTextZeigen() {
-    if (!m_sorelin || m_sorelin->sendText() == m_gezeigt)
-        return;
-    m_gezeigt = m_sorelin->sendText();
-    std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+    if (m_sorelin)
+        neueZeile(m_sorelin->sendText(), m_gezeigt);
 }
 
 // The state once each time it changes, with the blocks fetched so far.
@@ -130,8 +155,5 @@ void Empfangskonsole::zustandZeigen() {
     QString zustand = m_kontalex->zustand();
     if (!m_kontalex->blocknummer().isEmpty())
         zustand += " " + m_kontalex->messungenText() + ": " + m_kontalex->blocknummer();
-    if (zustand.isEmpty() || zustand == m_gezeigt)
-        return;
-    m_gezeigt = zustand;
-    std::fprintf(stderr, "%s\n", m_gezeigt.toLocal8Bit().constData());
+    neueZeile(zustand, m_gezeigt);
 }

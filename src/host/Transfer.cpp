@@ -6,6 +6,7 @@
 #include "host/KontalexTransfer.h"
 #include "links/DumpEmpfang.h"
 #include "links/SorelinUebertragung.h"
+#include "links/ZemakDialog.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Ui.h"
 #include "store/Variant.h"
@@ -16,14 +17,6 @@
 namespace vemo {
 namespace {
 
-// A family whose link is not part of this version: the user is told, and the driver leaves.
-Ausgang nochNichtVerfügbar() {
-    ui().MsgBox(xText("Die Datenübertragung von diesem Gerätetyp ist in dieser Version noch nicht möglich."),
-                modul().anwendungstitel);
-    modul().Abbruchmerker = 1;
-    return Ausgang::Verlassen;
-}
-
 // The block transfer of the Sorelin instruments: its dialog leaves the image and Abbruchmerker.
 Ausgang sorelinÜbertragung() {
     frmSorelin form;
@@ -31,14 +24,22 @@ Ausgang sorelinÜbertragung() {
     return Ausgang::Weiter;
 }
 
+// The query dialog of the 37xx instrument of the selector; Abbruchmerker tells the outcome.
+Ausgang zemakAbfrage() {
+    const Zemakvariante* variante = zemakVariante(modul().Selektor());
+    Q_ASSERT(variante);
+    zemakÜbertragen(*variante);
+    return Ausgang::Weiter;
+}
+
 // The link of each selector that has a dialog of its own; every other selector is received as a
 // printed dump.
 const std::map<QString, std::function<Ausgang()>>& verbindungen() {
     static const std::map<QString, std::function<Ausgang()>> tabelle{
-        {selektor::Kontalex, kontalexÜbertragen},   {selektor::Sorelin, sorelinÜbertragung},
-        {selektor::Zemak, nochNichtVerfügbar},      {selektor::Zemak3710B, nochNichtVerfügbar},
-        {selektor::Zemak3720, nochNichtVerfügbar},  {selektor::Zemak3740, nochNichtVerfügbar},
-        {selektor::Quentavoir, nochNichtVerfügbar},
+        {selektor::Kontalex, kontalexÜbertragen}, {selektor::Sorelin, sorelinÜbertragung},
+        {selektor::Zemak, zemakAbfrage},          {selektor::Zemak3710B, zemakAbfrage},
+        {selektor::Zemak3720, zemakAbfrage},      {selektor::Zemak3740, zemakAbfrage},
+        {selektor::Quentavoir, zemakAbfrage},
     };
     return tabelle;
 }

@@ -1,11 +1,11 @@
 #include "parsers/Zemak.h"
 
 #include "core/Arbeitsdateien.h"
+#include "core/Instrumentenuhr.h"
 #include "core/ModulState.h"
 #include "parsers/Codeaufteilung.h"
 #include "parsers/Einlesebloecke.h"
 #include "parsers/GeraetAnmelden.h"
-#include "parsers/ZeitAusSekunden.h"
 #include "parsers/Zemakmesszeilen.h"
 #include "platform/Textdatei.h"
 #include "platform/Ui.h"
@@ -125,7 +125,7 @@ Blockkopf Speicherleser::kopf(const Datensatz& satz) {
         const quint64 sekunden = satz.zahl(m_v.uhrfeld);
         if (sekunden > 0xFFFFFFFF) // the instrument's clock counts in 32 bits
             throw fehler::mit(fehler::Überlauf, satz.feld(m_v.uhrfeld));
-        return ZeitAusSekunden(qint64(sekunden));
+        return ZeitAusSekunden(quint32(sekunden));
     });
     if (zeit) {
         k.datum = zahlformat::datumText(zeit->date());

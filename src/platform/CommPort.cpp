@@ -10,6 +10,7 @@ namespace portfehler {
 Fehler mit(int nummer, const QString& detail) {
     static const std::map<int, QString> eigene{
         {UngültigerEigenschaftswert, "Ungültiger Eigenschaftswert"},
+        {GeräteKennungUngültig, "Die Gerätekennung ist ungültig oder wird nicht unterstützt"},
         {HardwareNichtVerfügbar, "Die Hardware ist nicht verfügbar"},
         {ParameterNichtGesetzt, "Die Anschlussparameter konnten nicht gesetzt werden"},
     };

@@ -129,6 +129,7 @@ private:
 // port raises, each with its description and, when given, the detail in brackets.
 namespace portfehler {
 constexpr int UngültigerEigenschaftswert = 380;
+constexpr int GeräteKennungUngültig = 8006;
 constexpr int HardwareNichtVerfügbar = 8010;
 constexpr int ParameterNichtGesetzt = 8015;
 

@@ -187,16 +187,4 @@ TEST_F(HostTest, ReadingAFileCopiesItAndUsesUpANumber) {
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
-TEST_F(HostTest, FamiliesWithoutALinkSayTheyAreNotAvailable) {
-    vemo0100Modul15a k(m_ui, m_settings);
-    modul().Selektor() = selektor::Zemak3720;
-    k.setPrüfgeräteTypID(99); // leaves the selector of the run before
-    k.DatenEmpfangen();
-    ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_TRUE(m_ui.meldungen[0].text.contains("noch nicht möglich"));
-    EXPECT_EQ(modul().Selektor(), selektor::Zemak3720);
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_TRUE(QDir(pfad("sicherung")).entryList(QDir::Files).isEmpty());
-}
-
 } // namespace

@@ -6,10 +6,12 @@
 #include "core/Arbeitsdateien.h"
 #include "host/Modul15a.h"
 #include "links/Form2.h"
+#include "links/ZemakDialog.h"
 #include "store/Variant.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 #include <QTimer>
 
@@ -56,6 +58,24 @@ protected:
     }
     QStringList sicherungen() const { return QDir(pfad("sicherung")).entryList(QDir::Files); }
 
+    // The 37xx instrument of the code in the simulator on a pseudo-terminal, in place of the
+    // in-memory line; a query dialog still open after eight seconds is aborted.
+    std::unique_ptr<test::Simulator> zemakEinstecken(int code, const QStringList& argumente) {
+        auto sim = std::make_unique<test::Simulator>(
+            argumente + QStringList{"--type", QString::number(code), "--link", pfad("port")});
+        modul().commPortFabrik = nullptr;
+        modul().portPfad = pfad("port");
+        m_komponente->setPrüfgeräteTypID(code);
+        m_ui.beiDialog = [this](DialogController& d) {
+            QTimer::singleShot(8000, &d, [this, &d] {
+                m_wachhund = true;
+                if (auto* form = qobject_cast<frmZEMAK*>(&d))
+                    form->abbrechen();
+            });
+        };
+        return sim;
+    }
+
     std::unique_ptr<vemo0100Modul15a> m_komponente;
     std::unique_ptr<SpeicherCommPort> m_leitung;
     bool m_wachhund = false;
@@ -96,6 +116,32 @@ TEST_F(TransferTest, AnAbortDuringReceptionKeepsWhatCameAndParsesNothing) {
     EXPECT_TRUE(sicherungen().isEmpty());
     EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "");
     EXPECT_FALSE(lesen(arbeitsdatei(datei::Ruvo)).isEmpty());
+}
+
+TEST_F(TransferTest, A37xxMemoryIsReadAndKeptWithItsNumberedCopy) {
+    const auto sim = zemakEinstecken(107, {"--records", "5"});
+    m_komponente->DatenEmpfangen();
+
+    EXPECT_EQ(m_ui.dialoge, QStringList{"vemo::frmZEMAK"});
+    EXPECT_EQ(m_ui.texte(), QStringList());
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 5);
+    const QByteArray ruvo = lesen(arbeitsdatei(datei::Ruvo));
+    EXPECT_TRUE(ruvo.startsWith("ZEMAK 3740B,V1.12,00471106\r\n"));
+    EXPECT_TRUE(ruvo.contains("\r\nQD 2,00000005,\r\n"));
+    ASSERT_EQ(sicherungen(), QStringList{"00000001.ser"});
+    EXPECT_EQ(lesen(pfad("sicherung/00000001.ser")), ruvo);
+    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000001");
+}
+
+TEST_F(TransferTest, AnEmpty37xxMemoryEndsTheTransferWithTwoMessages) {
+    const auto sim = zemakEinstecken(103, {"--records", "0"});
+    m_komponente->DatenEmpfangen();
+
+    EXPECT_EQ(m_ui.texte(), (QStringList{"keine Daten vorhanden !", "Datenübertragung abgebrochen"}));
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_TRUE(sicherungen().isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(arbeitsdatei(datei::Ruvo)));
 }
 
 } // namespace

@@ -48,11 +48,17 @@ public:
     void tasteDrücken() { m_prozess.write("\n"); }
     // The cable pulled: the instrument's end goes at once.
     void kabelZiehen() { m_prozess.kill(); }
+    // Its log on standard error so far, one line a happening ("clock set to ...", "sent N bytes").
+    QStringList protokoll() {
+        m_protokoll += QString::fromLocal8Bit(m_prozess.readAllStandardError());
+        return m_protokoll.split('\n', Qt::SkipEmptyParts);
+    }
     QProcess& prozess() { return m_prozess; }
 
 private:
     QProcess m_prozess;
     QString m_gerät;
+    QString m_protokoll;
 };
 
 } // namespace vemo::test

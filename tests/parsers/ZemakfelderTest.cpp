@@ -1,7 +1,6 @@
 #include "parsers/Zemakfelder.h"
 #include "core/InitTabelle.h"
 #include "parsers/Codeaufteilung.h"
-#include "parsers/ZeitAusSekunden.h"
 #include "platform/Zahlformat.h"
 #include "support/Testumgebung.h"
 
@@ -77,14 +76,6 @@ TEST(Zemakfelder, AttributeGivesDecimalsAndMarks) {
     zahlformat::setzen(QLocale::c());
     EXPECT_EQ(GetWertTextMilli("04D2", "02", false), "12.34");
     zahlformat::ausUmgebung();
-}
-
-TEST(Zemakfelder, TheClockCountsFromTheMillennium) {
-    EXPECT_EQ(ZeitAusSekunden(0), QDateTime(QDate(2000, 1, 1), QTime(0, 0)));
-    EXPECT_EQ(ZeitAusSekunden(366 * 86400 + 3661), QDateTime(QDate(2001, 1, 1), QTime(1, 1, 1)));
-    // A summer moment keeps its wall-clock time: the instrument knows no summer time.
-    EXPECT_EQ(ZeitAusSekunden(0x2FF4FCFC), QDateTime(QDate(2025, 6, 30), QTime(7, 45)));
-    EXPECT_EQ(ZeitAusSekunden(0xFFFFFFFF), QDateTime(QDate(2136, 2, 7), QTime(6, 28, 15)));
 }
 
 TEST(Codeaufteilung, DigitsGoToCustomerPlantBoardAndCircuit) {

@@ -24,6 +24,8 @@ public:
 signals:
     // A transfer of the instrument's own has ended; the number of bytes it sent.
     void sent(qint64 bytes);
+    // Something worth a line in the simulator's log: the clock set, the memory cleared.
+    void note(const QString& text);
 
 protected:
     void senden(const QByteArray& bytes);

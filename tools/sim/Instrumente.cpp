@@ -3,13 +3,21 @@
 #include "CorvexSpeicher.h"
 #include "KontalexGeraet.h"
 #include "KontalexSpeicher.h"
+#include "MultitesterGeraet.h"
 #include "SorelinGeraet.h"
 #include "SorelinSpeicher.h"
-
-#include <array>
+#include "ZemakGeraet.h"
+#include "core/Geraetetypen.h"
 
 namespace vemo::sim {
 namespace {
+
+Instrumenttyp multitester(int code) {
+    return {code, 2400, [](int datensätze) { return corvexSpeicher(datensätze); },
+            [](const QByteArray& speicher, const Verhalten& v, QString&) -> std::unique_ptr<Instrument> {
+                return std::make_unique<MultitesterGerät>(speicher, v.takt);
+            }};
+}
 
 // A Kontalex memory is a raw file RS232.SEP, whose answer to "MWH" names the model.
 QString kontalexSpeicherPrüfen(const QByteArray& speicher, const QString& modell) {
@@ -21,26 +29,52 @@ QString kontalexSpeicherPrüfen(const QByteArray& speicher, const QString& model
     return {};
 }
 
-const std::array<Instrumenttyp, 3> typen{{
-    {100, [](int datensätze) { return corvexSpeicher(datensätze); },
-     [](QByteArray speicher, Takt takt) -> std::unique_ptr<Instrument> {
-         return std::make_unique<MultitesterGerät>(std::move(speicher), takt);
-     }},
-    {101, [](int datensätze) { return kontalexSpeicher(datensätze, "KONTALEX"); },
-     [](QByteArray speicher, Takt takt) -> std::unique_ptr<Instrument> {
-         return std::make_unique<KontalexGerät>(speicher, takt);
-     },
-     kontalexSpeicher, kontalexSpeicherPrüfen},
-    {102, [](int stromkreise) { return sorelinSpeicherDerWahl(stromkreise); },
-     [](QByteArray speicher, Takt takt) -> std::unique_ptr<Instrument> {
-         return std::make_unique<SorelinGerät>(std::move(speicher), takt);
-     }},
-}};
+Instrumenttyp kontalex(int code) {
+    return {code,
+            2400,
+            [](int datensätze) { return kontalexSpeicher(datensätze, "KONTALEX"); },
+            [](const QByteArray& speicher, const Verhalten& v, QString&) -> std::unique_ptr<Instrument> {
+                return std::make_unique<KontalexGerät>(speicher, v.takt);
+            },
+            kontalexSpeicher,
+            kontalexSpeicherPrüfen};
+}
+
+Instrumenttyp sorelin(int code) {
+    return {code, 2400, [](int stromkreise) { return sorelinSpeicherDerWahl(stromkreise); },
+            [](const QByteArray& speicher, const Verhalten& v, QString&) -> std::unique_ptr<Instrument> {
+                return std::make_unique<SorelinGerät>(speicher, v.takt);
+            }};
+}
+
+// The memory of a 37xx instrument is the working file the component saves from it.
+Instrumenttyp zemak(int code) {
+    const Zemakvariante& variante = *zemakVariante(*selektorFür(code));
+    return {code, 9600,
+            [&variante](int datensätze) {
+                const QByteArray uhrzeile = "XG," + QByteArray::number(ZemakGerät::werksuhr());
+                return ZemakSpeicher::erzeugen(variante, datensätze).arbeitsdatei(uhrzeile, "0");
+            },
+            [&variante](const QByteArray& datei, const Verhalten& v,
+                        QString& fehler) -> std::unique_ptr<Instrument> {
+                auto speicher = ZemakSpeicher::ausArbeitsdatei(datei, variante, fehler);
+                if (!speicher)
+                    return nullptr;
+                return std::make_unique<ZemakGerät>(variante, std::move(*speicher), v);
+            }};
+}
+
+const std::vector<Instrumenttyp>& typen() {
+    static const std::vector<Instrumenttyp> tabelle{multitester(100), kontalex(101), sorelin(102),
+                                                    zemak(103),       zemak(104),    zemak(105),
+                                                    zemak(106),       zemak(107)};
+    return tabelle;
+}
 
 } // namespace
 
 const Instrumenttyp* instrumenttyp(int code) {
-    for (const auto& t : typen)
+    for (const auto& t : typen())
         if (t.code == code)
             return &t;
     return nullptr;
@@ -48,7 +82,7 @@ const Instrumenttyp* instrumenttyp(int code) {
 
 QList<int> simulierteTypen() {
     QList<int> codes;
-    for (const auto& t : typen)
+    for (const auto& t : typen())
         codes << t.code;
     return codes;
 }

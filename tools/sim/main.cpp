@@ -42,8 +42,20 @@ struct Optionen {
     QByteArray speicher;
     QString verknüpfung;
     double drückenNach = -1;
-    Takt takt;
+    Verhalten verhalten;
 };
+
+// A whole number of at least unten from an option that is set; false when it is not one.
+bool zahlLesen(const QCommandLineParser& p, const QCommandLineOption& option, int unten, int& ziel) {
+    if (!p.isSet(option))
+        return true;
+    bool ok = false;
+    const int wert = p.value(option).toInt(&ok);
+    if (!ok || wert < unten)
+        return false;
+    ziel = wert;
+    return true;
+}
 
 // Reads the options; an error text when they don't fit.
 QString optionenLesen(const QStringList& argumente, Optionen& o) {
@@ -51,20 +63,28 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
     p.setApplicationDescription("Simulates an instrument on a pseudo-terminal.");
     p.addHelpOption();
     const QCommandLineOption typ("type", "Device type code of the instrument.", "CODE");
-    const QCommandLineOption speicher("memory", "Dump file the instrument holds, sent byte for byte.",
-                                      "FILE");
+    const QCommandLineOption speicher(
+        "memory", "What the instrument holds: the dump it prints, or the working file saved from it.",
+        "FILE");
     const QCommandLineOption datensätze("records", "Generate a memory of N records (default 5).", "N", "5");
     const QCommandLineOption modell("model", "Model of the instrument, for types of several models.", "NAME");
-    const QCommandLineOption link("link", "Symbolic link to the serial device.", "PATH");
-    const QCommandLineOption drücken("press-after", "Press the send key after SECONDS.", "SECONDS");
-    const QCommandLineOption baud("baud", "Pace of the printout; 0 sends at once (default 2400).", "N",
-                                  "2400");
-    const QCommandLineOption pause("pause", "Pause before each closing empty line (default 250).", "MS",
-                                   "250");
     const QCommandLineOption instrument(
         "instrument", "Sorelin instrument type whose driver table builds the memory.", "TYPE");
     const QCommandLineOption treiber("db", "Database whose Sorelin driver tables to use.", "DB");
-    p.addOptions({typ, speicher, datensätze, modell, link, drücken, baud, pause, instrument, treiber});
+    const QCommandLineOption link("link", "Symbolic link to the serial device.", "PATH");
+    const QCommandLineOption drücken("press-after", "Press the send key after SECONDS.", "SECONDS");
+    const QCommandLineOption baud("baud",
+                                  "Pace of the sending; 0 sends at once (default: the family's speed).", "N");
+    const QCommandLineOption pause("pause", "Pause before each closing empty line (default 250).", "MS");
+    const QCommandLineOption kurz("short", "Memory replies lack N characters at the end of their records.",
+                                  "N");
+    const QCommandLineOption kurzMal("short-replies", "Only the first K memory replies are short.", "K");
+    const QCommandLineOption stilleNach("silent-after", "Fall silent after N characters of a memory reply.",
+                                        "N");
+    const QCommandLineOption stille("silence", "The silence lasts MS; 0 (default): the reply never ends.",
+                                    "MS");
+    p.addOptions({typ, speicher, datensätze, modell, instrument, treiber, link, drücken, baud, pause, kurz,
+                  kurzMal, stilleNach, stille});
     p.process(argumente);
 
     bool ok = false;
@@ -106,12 +126,20 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
         if (o.speicher.isEmpty() && p.isSet(modell))
             return "model " + p.value(modell) + " is not simulated";
     }
-    o.takt.baud = p.value(baud).toInt(&ok);
-    if (!ok || o.takt.baud < 0)
+    Takt& takt = o.verhalten.takt;
+    Störungen& störungen = o.verhalten.störungen;
+    takt.baud = o.typ->baud;
+    int stilleNachZeichen = -1;
+    if (!zahlLesen(p, baud, 0, takt.baud))
         return "--baud needs a line speed";
-    o.takt.leerzeilenPause = p.value(pause).toInt(&ok);
-    if (!ok || o.takt.leerzeilenPause < 0)
+    if (!zahlLesen(p, pause, 0, takt.leerzeilenPause))
         return "--pause needs milliseconds";
+    if (!zahlLesen(p, kurz, 0, störungen.fehlendeZeichen) ||
+        !zahlLesen(p, kurzMal, 0, störungen.kurzeAntworten))
+        return "--short and --short-replies need counts";
+    if (!zahlLesen(p, stilleNach, 0, stilleNachZeichen) || !zahlLesen(p, stille, 0, störungen.stilleMs))
+        return "--silent-after and --silence need counts";
+    störungen.stilleNach = stilleNachZeichen;
     if (p.isSet(drücken)) {
         o.drückenNach = p.value(drücken).toDouble(&ok);
         if (!ok || o.drückenNach < 0)
@@ -144,17 +172,19 @@ int main(int argc, char** argv) {
         return abbruch(fehler);
 
     QString fehler;
+    const auto gerät = o.typ->erstellen(o.speicher, o.verhalten, fehler);
+    if (!gerät)
+        return abbruch("the memory is not of type " + QString::number(o.typ->code) + ": " + fehler);
     const auto leitung = PtyLeitung::öffnen(fehler);
     if (!leitung)
         return abbruch("no pseudo-terminal: " + fehler);
     if (!o.verknüpfung.isEmpty())
         if (const QString f = verknüpfen(leitung->gerätePfad(), o.verknüpfung); !f.isEmpty())
             return abbruch(f);
-
-    const auto gerät = o.typ->erstellen(o.speicher, o.takt);
     leitung->setInstrument(gerät.get());
     QObject::connect(gerät.get(), &Instrument::sent,
                      [](qint64 n) { melden(QString("sent %1 bytes").arg(n)); });
+    QObject::connect(gerät.get(), &Instrument::note, [](const QString& text) { melden(text); });
     const auto drücken = [&gerät] {
         melden("key pressed");
         gerät->tasteGedrückt();

@@ -1,0 +1,121 @@
+#include "core/Instrumentenuhr.h"
+
+#include <QDateTime>
+#include <QTimeZone>
+#include <gtest/gtest.h>
+#include <limits>
+#include <time.h>
+
+namespace vemo {
+namespace {
+
+constexpr quint32 Höchstwert = std::numeric_limits<quint32>::max();
+
+// The computer's time zone for the length of a test, as a POSIX rule that needs no zone files.
+class Zeitzone {
+public:
+    explicit Zeitzone(const char* regel) : m_hatte(qEnvironmentVariableIsSet("TZ")), m_alt(qgetenv("TZ")) {
+        qputenv("TZ", regel);
+        tzset();
+    }
+    ~Zeitzone() {
+        if (m_hatte)
+            qputenv("TZ", m_alt);
+        else
+            qunsetenv("TZ");
+        tzset();
+    }
+
+private:
+    bool m_hatte;
+    QByteArray m_alt;
+};
+
+const char* const Mitteleuropa = "CET-1CEST,M3.5.0,M10.5.0/3";
+
+struct Felder {
+    int tag, monat, jahr, stunde, minute, sekunde;
+};
+
+Felder felder(quint32 n) {
+    Felder f{};
+    ZEMAKgetTime(n, f.tag, f.monat, f.jahr, f.stunde, f.minute, f.sekunde);
+    return f;
+}
+
+std::optional<quint32> zählen(const Felder& f) {
+    return ZEMAKsecTime(f.tag, f.monat, f.jahr, f.stunde, f.minute, f.sekunde);
+}
+
+TEST(Instrumentenuhr, HinUndZurueckUeberDenGanzenBereich) {
+    const Zeitzone utc("UTC0");
+    // Every count a step of 21467 seconds hits from 0 on (some 200000 of them, at every hour and
+    // second of the day), and the edges.
+    std::vector<quint32> proben{0, 1, 86399, 86400, Höchstwert - 1, Höchstwert};
+    for (quint64 n = 0; n <= Höchstwert; n += 21467)
+        proben.push_back(quint32(n));
+    const QDateTime epoche(QDate(2000, 1, 1), QTime(0, 0), Qt::UTC);
+    for (const quint32 n : proben) {
+        const Felder f = felder(n);
+        ASSERT_EQ(zählen(f), n) << n;
+        // The count is the wall seconds since the epoch, every day 86400 of them.
+        const QDateTime wand(QDate(f.jahr, f.monat, f.tag), QTime(f.stunde, f.minute, f.sekunde), Qt::UTC);
+        ASSERT_EQ(epoche.secsTo(wand), qint64(n)) << n;
+        const QDateTime zeit = ZeitAusSekunden(n);
+        ASSERT_EQ(zeit.date(), wand.date()) << n;
+        ASSERT_EQ(zeit.time(), wand.time()) << n;
+    }
+}
+
+TEST(Instrumentenuhr, RaenderUndUnmoeglicheDaten) {
+    EXPECT_EQ(ZEMAKsecTime(1, 1, 2000, 0, 0, 0), 0u);
+    EXPECT_EQ(ZEMAKsecTime(7, 2, 2136, 6, 28, 15), Höchstwert);
+    EXPECT_EQ(ZEMAKsecTime(1, 3, 2000, 0, 0, 0), 60u * 86400) << "2000 has a 29 February";
+    EXPECT_EQ(ZEMAKsecTime(29, 2, 2100, 12, 0, 0), std::nullopt) << "2100 has none";
+    EXPECT_EQ(ZEMAKsecTime(31, 12, 1999, 23, 59, 59), std::nullopt);
+    EXPECT_EQ(ZEMAKsecTime(7, 2, 2136, 6, 28, 16), std::nullopt);
+    EXPECT_EQ(ZEMAKsecTime(31, 4, 2024, 0, 0, 0), std::nullopt);
+    EXPECT_EQ(ZEMAKsecTime(1, 13, 2024, 0, 0, 0), std::nullopt);
+    EXPECT_EQ(ZEMAKsecTime(0, 1, 2024, 0, 0, 0), std::nullopt);
+    EXPECT_EQ(ZEMAKsecTime(1, 1, 2024, 24, 0, 0), std::nullopt);
+    EXPECT_EQ(ZEMAKsecTime(1, 1, 2024, 0, 60, 0), std::nullopt);
+    EXPECT_EQ(ZEMAKsecTime(1, 1, 2024, 0, 0, -1), std::nullopt);
+    const Felder letzte = felder(Höchstwert);
+    EXPECT_EQ(QDate(letzte.jahr, letzte.monat, letzte.tag), QDate(2136, 2, 7));
+    EXPECT_EQ(QTime(letzte.stunde, letzte.minute, letzte.sekunde), QTime(6, 28, 15));
+}
+
+TEST(Instrumentenuhr, ZeigtDieOrtszeitWieDieUhrDesComputers) {
+    const Zeitzone mez(Mitteleuropa);
+    // The instrument is set to what the computer's clock shows, summer time included.
+    const QDateTime sommer(QDate(2024, 7, 1), QTime(10, 0), Qt::UTC);
+    const QDateTime winter(QDate(2024, 1, 15), QTime(10, 0), Qt::UTC);
+    EXPECT_EQ(instrumentenzeit(sommer), ZEMAKsecTime(1, 7, 2024, 12, 0, 0));
+    EXPECT_EQ(instrumentenzeit(winter), ZEMAKsecTime(15, 1, 2024, 11, 0, 0));
+    EXPECT_EQ(ZeitAusSekunden(*ZEMAKsecTime(1, 7, 2024, 12, 0, 0)), sommer);
+    EXPECT_EQ(ZeitAusSekunden(*ZEMAKsecTime(15, 1, 2024, 11, 0, 0)), winter);
+
+    const QDateTime jetzt = QDateTime::currentDateTime();
+    const auto n = instrumentenzeit(jetzt);
+    ASSERT_TRUE(n);
+    EXPECT_LE(std::abs(ZeitAusSekunden(*n).secsTo(jetzt)), 1);
+    EXPECT_EQ(ZeitAusSekunden(*n).timeSpec(), Qt::LocalTime);
+    const QDateTime utcJetzt = jetzt.toUTC();
+    const auto nachUtc =
+        ZEMAKsecTime(utcJetzt.date().day(), utcJetzt.date().month(), utcJetzt.date().year(),
+                     utcJetzt.time().hour(), utcJetzt.time().minute(), utcJetzt.time().second());
+    EXPECT_EQ(qint64(*n) - qint64(*nachUtc), jetzt.offsetFromUtc()) << "local time, not UTC";
+
+    // The hour the clocks skip in spring shows as the computer's clock shows that moment; the
+    // hour they repeat in autumn keeps its wall time.
+    const QDateTime übersprungen = ZeitAusSekunden(*ZEMAKsecTime(31, 3, 2024, 2, 30, 0));
+    ASSERT_TRUE(übersprungen.isValid());
+    EXPECT_EQ(übersprungen.date(), QDate(2024, 3, 31));
+    EXPECT_EQ(übersprungen.time(), QTime(3, 30));
+    const QDateTime doppelt = ZeitAusSekunden(*ZEMAKsecTime(27, 10, 2024, 2, 30, 0));
+    EXPECT_EQ(doppelt.time(), QTime(2, 30));
+    EXPECT_EQ(doppelt.date(), QDate(2024, 10, 27));
+}
+
+} // namespace
+} // namespace vemo
