@@ -1,7 +1,7 @@
 #include "grid/EinleseDatenController.h"
 
 #include "core/ModulState.h"
-#include "grid/Sanduhr.h"
+#include "core/Sanduhr.h"
 #include "grid/Sprachregel.h"
 #include "grid/Zuordnung.h"
 #include "platform/SettingsStore.h"

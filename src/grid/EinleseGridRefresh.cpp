@@ -2,7 +2,7 @@
 #include "grid/EinleseDatenController.h"
 #include "grid/GridAbfrage.h"
 #include "grid/GridDurchlauf.h"
-#include "grid/Sanduhr.h"
+#include "core/Sanduhr.h"
 #include "grid/Sprachregel.h"
 
 namespace vemo {

@@ -3,6 +3,7 @@
 #include "conversion/KontalexBericht.h"
 #include "core/Arbeitsdateien.h"
 #include "core/ModulState.h"
+#include "core/Sanduhr.h"
 #include "core/Satzdatei.h"
 #include "host/Dateinummern.h"
 #include "platform/SettingsStore.h"
@@ -16,14 +17,6 @@ namespace {
 
 const QString Abschnitt = "Application";
 const QString Schlüssel = "LastFile";
-
-class Sanduhr {
-public:
-    Sanduhr() { ui().sanduhr(true); }
-    ~Sanduhr() { ui().sanduhr(false); }
-    Sanduhr(const Sanduhr&) = delete;
-    Sanduhr& operator=(const Sanduhr&) = delete;
-};
 
 // A line of the list: the provisional number and the block head, every value quoted.
 QByteArray listenzeile(const QString& nummer, const Satz& kopf) {

@@ -1,6 +1,7 @@
 #include "parsers/EinlesenVonDatei.h"
 
 #include "core/ModulState.h"
+#include "core/Sanduhr.h"
 #include "parsers/Corvex.h"
 #include "parsers/Kontalex.h"
 #include "parsers/MultitesterTabelle.h"
@@ -25,14 +26,6 @@ const QHash<QString, Parser>& parserDerSelektoren() {
     };
     return tabelle;
 }
-
-class Sanduhr {
-public:
-    Sanduhr() { ui().sanduhr(true); }
-    ~Sanduhr() { ui().sanduhr(false); }
-    Sanduhr(const Sanduhr&) = delete;
-    Sanduhr& operator=(const Sanduhr&) = delete;
-};
 
 } // namespace
 

@@ -1,4 +1,4 @@
-#include "grid/Sanduhr.h"
+#include "core/Sanduhr.h"
 
 #include "core/ModulState.h"
 #include "platform/Ui.h"
