@@ -1,8 +1,8 @@
 #include "core/ModulState.h"
+#include "core/Sanduhr.h"
 #include "grid/EinleseDatenController.h"
 #include "grid/GridAbfrage.h"
 #include "grid/GridDurchlauf.h"
-#include "core/Sanduhr.h"
 #include "grid/Sprachregel.h"
 
 namespace vemo {
