@@ -2,7 +2,6 @@
 
 #include "links/Kontalex.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -47,7 +46,9 @@ QLabel* beschriftung(const QString& name, const QString& text, QWidget* eltern) 
 } // namespace
 
 KontalexAnsicht::KontalexAnsicht(Kontalex& dialog, QWidget* eltern)
-    : QDialog(eltern), m_dialog(&dialog), m_kennung(beschriftung("Label1", {}, this)),
+    : Abbruchfenster(
+          dialog, [&dialog] { dialog.abbrechen(); }, eltern),
+      m_dialog(&dialog), m_kennung(beschriftung("Label1", {}, this)),
       m_zustand(beschriftung("Label9", {}, this)), m_sekunden(beschriftung("Label6", {}, this)),
       m_block(beschriftung("Label3", {}, this)), m_balken(new Fortschrittsbalken(dialog, this)),
       m_abbrechen(new QPushButton(dialog.abbrechenText(), this)) {
@@ -92,21 +93,4 @@ void KontalexAnsicht::anzeigen() {
 
 // While the transfer runs the window goes only with it: closing it by its frame or with Escape is
 // the abort button.
-void KontalexAnsicht::closeEvent(QCloseEvent* ereignis) {
-    if (m_dialog && m_dialog->istOffen()) {
-        m_dialog->abbrechen();
-        ereignis->ignore();
-        return;
-    }
-    QDialog::closeEvent(ereignis);
-}
-
-void KontalexAnsicht::reject() {
-    if (m_dialog && m_dialog->istOffen()) {
-        m_dialog->abbrechen();
-        return;
-    }
-    QDialog::reject();
-}
-
 } // namespace vemo

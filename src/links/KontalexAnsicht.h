@@ -1,5 +1,7 @@
 #pragma once
 
+#include "links/Abbruchfenster.h"
+
 #include <QDialog>
 #include <QPointer>
 
@@ -14,16 +16,12 @@ class Kontalex;
 // The window of the command-protocol transfer: the baud rate or what is being asked, the state,
 // the seconds left to get the instrument ready, the block under way, the drawn progress bar, and
 // the abort button.
-class KontalexAnsicht : public QDialog {
+class KontalexAnsicht : public Abbruchfenster {
     Q_OBJECT
 public:
     KontalexAnsicht(Kontalex& dialog, QWidget* eltern);
 
     static QDialog* erstellen(DialogController& controller, QWidget* eltern);
-
-protected:
-    void closeEvent(QCloseEvent* ereignis) override;
-    void reject() override;
 
 private:
     void anzeigen();

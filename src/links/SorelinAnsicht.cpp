@@ -2,7 +2,6 @@
 
 #include "links/SorelinUebertragung.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -35,7 +34,9 @@ QPixmap hinweisBild() {
 } // namespace
 
 SorelinAnsicht::SorelinAnsicht(frmSorelin& form, QWidget* eltern)
-    : QDialog(eltern), m_form(&form), m_sendText(new QLabel(this)), m_balken(new QProgressBar(this)),
+    : Abbruchfenster(
+          form, [&form] { form.abbrechen(); }, eltern),
+      m_form(&form), m_sendText(new QLabel(this)), m_balken(new QProgressBar(this)),
       m_prozent(new QLabel(this)), m_abbrechen(new QPushButton(form.abbrechenText(), this)) {
     setObjectName("frmSorelin");
     setWindowTitle(form.titel());
@@ -84,17 +85,4 @@ void SorelinAnsicht::anzeigen() {
 
 // Closing the window by its frame or with Escape is the abort button: the dialog goes with its
 // transfer.
-void SorelinAnsicht::closeEvent(QCloseEvent* ereignis) {
-    if (m_form && m_form->istOffen())
-        m_form->abbrechen();
-    QDialog::closeEvent(ereignis);
-}
-
-void SorelinAnsicht::reject() {
-    if (m_form && m_form->istOffen())
-        m_form->abbrechen();
-    else
-        QDialog::reject();
-}
-
 } // namespace vemo

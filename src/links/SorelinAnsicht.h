@@ -1,5 +1,7 @@
 #pragma once
 
+#include "links/Abbruchfenster.h"
+
 #include <QDialog>
 #include <QPointer>
 
@@ -14,16 +16,12 @@ class frmSorelin;
 
 // The window of the block transfer: a hint picture, the blinking prompt, the progress bar with its
 // percentage, and the abort button.
-class SorelinAnsicht : public QDialog {
+class SorelinAnsicht : public Abbruchfenster {
     Q_OBJECT
 public:
     SorelinAnsicht(frmSorelin& form, QWidget* eltern);
 
     static QDialog* erstellen(DialogController& controller, QWidget* eltern);
-
-protected:
-    void closeEvent(QCloseEvent* ereignis) override;
-    void reject() override;
 
 private:
     void anzeigen();

@@ -2,7 +2,6 @@
 
 #include "links/ZemakDialog.h"
 
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -52,7 +51,9 @@ QGroupBox* rahmen(const QString& titel, const QString& name, QLabel* inhalt, QWi
 } // namespace
 
 ZemakAnsicht::ZemakAnsicht(frmZEMAK& form, QWidget* eltern)
-    : QDialog(eltern), m_form(&form), m_zustand(new QLabel(this)), m_hinweis(new QLabel(this)),
+    : Abbruchfenster(
+          form, [&form] { form.abbrechen(); }, eltern),
+      m_form(&form), m_zustand(new QLabel(this)), m_hinweis(new QLabel(this)),
       m_balken(new QProgressBar(this)), m_prozent(new QLabel(this)) {
     setObjectName("frmZEMAK");
     setWindowTitle(form.titel());
@@ -103,21 +104,4 @@ void ZemakAnsicht::anzeigen() {
 }
 
 // Closing the window by its frame or with Escape is the abort button.
-void ZemakAnsicht::closeEvent(QCloseEvent* ereignis) {
-    if (m_form && m_form->istOffen()) {
-        m_form->abbrechen();
-        ereignis->ignore();
-        return;
-    }
-    QDialog::closeEvent(ereignis);
-}
-
-void ZemakAnsicht::reject() {
-    if (m_form && m_form->istOffen()) {
-        m_form->abbrechen();
-        return;
-    }
-    QDialog::reject();
-}
-
 } // namespace vemo

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "links/Abbruchfenster.h"
+
 #include <QDialog>
 #include <QPointer>
 
@@ -16,16 +18,12 @@ class frmZEMAK;
 // The window of the 37xx reception: a picture of the instrument without its leads, the state of
 // the search, the note to the user, the progress of the memory with its percentage, and the abort
 // button.
-class ZemakAnsicht : public QDialog {
+class ZemakAnsicht : public Abbruchfenster {
     Q_OBJECT
 public:
     ZemakAnsicht(frmZEMAK& form, QWidget* eltern);
 
     static QDialog* erstellen(DialogController& controller, QWidget* eltern);
-
-protected:
-    void closeEvent(QCloseEvent* ereignis) override;
-    void reject() override;
 
 private:
     void anzeigen();
