@@ -9,4 +9,8 @@ namespace vemo {
 // Store errors are raised to the caller.
 QString InitLesen(const QString& name, const QString& standard);
 
+// Writes a setting of the table init: the row with that name gets the value as text, or is added
+// with the name cut to 50 characters. Store errors are raised to the caller.
+void InitSchreiben(const QString& name, const QString& wert);
+
 } // namespace vemo

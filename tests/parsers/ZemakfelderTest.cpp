@@ -115,6 +115,13 @@ TEST_F(Einstellungen, CodeSplittingIsReadFromInit) {
     sql("INSERT INTO init VALUES ('" + QString(50, 'n') + "', 'lang');");
     EXPECT_EQ(InitLesen(QString(60, 'n'), "?"), "lang");
 
+    // Writing updates the row named, or adds one under the cut name.
+    InitSchreiben(QString(60, 'n'), "neu");
+    InitSchreiben("Firma_NiceicNo", "N-17");
+    EXPECT_EQ(InitLesen(QString(50, 'n'), "?"), "neu");
+    EXPECT_EQ(InitLesen("Firma_NiceicNo", "?"), "N-17");
+    EXPECT_EQ(wert("SELECT COUNT(*) FROM init"), "5");
+
     sql("UPDATE init SET wert = NULL WHERE name = 'codeSplitting3720';");
     EXPECT_EQ(InitLesen("codeSplitting3720", "0"), "");
     EXPECT_EQ(fehlernummer([] { codeaufteilungLesen(); }), fehler::TypenUnverträglich);
