@@ -53,6 +53,10 @@ void Datenbank::Close() {
     m_v.reset();
 }
 
+void Datenbank::setWartezeit(std::chrono::milliseconds wartezeit) const {
+    sqlite3_busy_timeout(v().db(), int(wartezeit.count()));
+}
+
 Recordset Datenbank::OpenRecordset(const QString& quelle) const {
     const QString name = ohneKlammern(quelle);
     const bool istAnweisung = name.contains(' ') || name.contains('\n') || name.startsWith('(');

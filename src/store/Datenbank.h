@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QString>
 #include <QVariant>
+#include <chrono>
 #include <memory>
 
 namespace vemo {
@@ -43,6 +44,8 @@ public:
     bool istOffen() const { return bool(m_v); }
     QString Name() const;
     void Close();
+    // How long a write waits for a lock that another writer holds before it fails with 3260.
+    void setWartezeit(std::chrono::milliseconds wartezeit) const;
 
     Recordset OpenRecordset(const QString& quelle) const;
     void Execute(const QString& anweisung) const;
