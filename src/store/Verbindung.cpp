@@ -184,6 +184,13 @@ Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
         m_db = nullptr;
         throw fehler::mit(fehler::DatenbankNichtGefunden, pfad + ": " + text);
     }
+    // SQLite opens a file it may not write for reading only; every command of the component
+    // writes, so such a file is refused here with one message instead of one at each write.
+    if (sqlite3_db_readonly(m_db, "main") == 1) {
+        sqlite3_close(m_db);
+        m_db = nullptr;
+        throw fehler::mit(fehler::Schreibgeschützt, pfad);
+    }
     // Opened shared with the host: a lock held there makes us wait, not fail.
     sqlite3_busy_timeout(m_db, 15000);
     funktionenAnmelden(m_db);
