@@ -1,0 +1,217 @@
+// The cable pulled from the instrument at each phase of each protocol, on the command line as the
+// user runs it: the simulator process killed. No family gives up on its own there; the reception
+// waits, Ctrl-C (the abort button) ends it at once, and the working files are what the family
+// leaves after an abort.
+#include "CorvexSpeicher.h"
+#include "links/LinkHilfen.h"
+#include "support/Testumgebung.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <csignal>
+
+using namespace vemo;
+
+namespace {
+
+const QByteArray LetzterLauf = "der letzte Lauf\r\n";
+
+// What an aborted reception leaves in its working file.
+enum class Datei {
+    Unberührt, // the file of the last run
+    Leer,      // truncated when the wait began
+    Anfang,    // the whole lines that came before the cable went: the start of the printout
+};
+
+struct Phase {
+    const char* name;
+    int typ;
+    QStringList simulator; // beyond --type and --link
+    bool tasteDrücken;     // the instrument's send key, once its dialog waits for it
+    QString bis;           // the console line after which the cable goes
+    int danach;            // ms the line runs on after that line
+    QString arbeitsdatei;
+    Datei datei;
+};
+
+// A 37xx instrument answers only to its own model's name; a 3740 on the line keeps a search for
+// another model searching.
+Phase suche(int typ) {
+    return {"Suche",
+            typ,
+            {"--type", typ == 106 ? "105" : "106"},
+            false,
+            "Alle Messleitungen",
+            0,
+            "Ruvo.ser",
+            Datei::Unberührt};
+}
+Phase sammeln(int typ) {
+    return {"Sammeln",
+            typ,
+            {"--type", QString::number(typ), "--records", "40", "--silent-after", "300"},
+            false,
+            "werden übertragen",
+            0,
+            "Ruvo.ser",
+            Datei::Unberührt};
+}
+
+const Phase Phasen[] = {
+    {"Warten auf die Taste",
+     100,
+     {"--type", "100", "--records", "30"},
+     false,
+     "Serielle Datenübertragung",
+     0,
+     "Ruvo.ser",
+     Datei::Leer},
+    {"Ausdruck",
+     100,
+     {"--type", "100", "--records", "30", "--baud", "2400"},
+     true,
+     "Datenübertragung läuft",
+     500,
+     "Ruvo.ser",
+     Datei::Anfang},
+    // A printing instrument never answers the question whether it is ready.
+    {"Warten auf Bereitschaft",
+     101,
+     {"--type", "100", "--records", "3"},
+     false,
+     "Serielle Datenübertragung",
+     0,
+     "RS232.TXT",
+     Datei::Unberührt},
+    // Once the answer to the start of the memory has come: a cut answer is a refusal, after which
+    // the family ends the session by itself.
+    {"Blöcke",
+     101,
+     {"--type", "101", "--model", "KONTALEX", "--records", "200", "--baud", "2400"},
+     false,
+     "Datenübertragung läuft",
+     1000,
+     "RS232.TXT",
+     Datei::Unberührt},
+    {"Warten auf die Startmarke",
+     102,
+     {"--type", "102", "--records", "40"},
+     false,
+     "Senden-Taste",
+     0,
+     "Rs232.sep",
+     Datei::Unberührt},
+    {"Daten",
+     102,
+     {"--type", "102", "--records", "40", "--baud", "2400"},
+     true,
+     "Datenübertragung läuft",
+     0,
+     "Rs232.sep",
+     Datei::Unberührt},
+    suche(103),
+    sammeln(103),
+    suche(104),
+    sammeln(104),
+    suche(105),
+    sammeln(105),
+    suche(106),
+    sammeln(106),
+    suche(107),
+    sammeln(107),
+};
+
+class KabelTest : public test::Testumgebung, public ::testing::WithParamInterface<Phase> {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        QDir(m_dir.path()).mkpath("cli");
+        QProcess init;
+        init.start(programm(), {"init-db", pfad("cli/vemotrix.db")});
+        ASSERT_TRUE(init.waitForFinished(20000));
+        ASSERT_EQ(init.exitCode(), 0) << init.readAllStandardError().toStdString();
+    }
+    static QString programm() { return QString(VEMO_BIN_DIR) + "/vemo0100"; }
+
+    QByteArray lesen(const QString& name) const {
+        QFile f(pfad("cli/" + name));
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(keine Datei)");
+    }
+    void vorbelegen(const QString& name) const {
+        QFile f(pfad("cli/" + name));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(LetzterLauf);
+    }
+
+    // The console's lines until one contains the text, or the run ends, or 20 s pass.
+    static QString bisZurZeile(QProcess& p, const QString& text) {
+        QString bisher;
+        const QDeadlineTimer frist(20000);
+        while (!bisher.contains(text) && !frist.hasExpired() && p.state() == QProcess::Running) {
+            p.waitForReadyRead(50);
+            bisher += QString::fromLocal8Bit(p.readAllStandardError());
+        }
+        return bisher;
+    }
+};
+
+TEST_P(KabelTest, DieLeitungWartetUndDerAbbruchBeendetSie) {
+    const Phase& phase = GetParam();
+    vorbelegen(phase.arbeitsdatei);
+    test::Simulator sim(phase.simulator + QStringList{"--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty()) << sim.prozess().readAllStandardError().toStdString();
+
+    QProcess p;
+    p.start(programm(), {"--db", pfad("cli/vemotrix.db"), "--settings", pfad("cli/settings.ini"), "--port",
+                         pfad("port"), "--type", QString::number(phase.typ), "receive"});
+    ASSERT_TRUE(p.waitForStarted(5000));
+    QString ausgabe = bisZurZeile(p, phase.tasteDrücken ? QString("Serielle Datenübertragung") : phase.bis);
+    if (phase.tasteDrücken) {
+        // The dialog throws away what the line holds when it opens: the key comes after that.
+        p.waitForFinished(500);
+        sim.tasteDrücken();
+        sim.prozess().waitForBytesWritten(1000); // no event loop runs here to send it
+        ausgabe += bisZurZeile(p, phase.bis);
+    }
+    ASSERT_TRUE(ausgabe.contains(phase.bis)) << ausgabe.toStdString();
+    if (phase.danach > 0)
+        p.waitForFinished(phase.danach);
+
+    sim.kabelZiehen();
+    // Longer than any limit of the families' own: a line that went dead is silence to them.
+    ASSERT_FALSE(p.waitForFinished(1500))
+        << "gave up by itself:\n"
+        << (ausgabe + QString::fromLocal8Bit(p.readAllStandardError())).toStdString();
+    ::kill(pid_t(p.processId()), SIGINT);
+    ASSERT_TRUE(p.waitForFinished(10000)) << "the abort did not end the reception";
+    ausgabe += QString::fromLocal8Bit(p.readAllStandardError());
+
+    EXPECT_EQ(p.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(p.exitCode(), 1) << ausgabe.toStdString();
+    const QByteArray datei = lesen(phase.arbeitsdatei);
+    switch (phase.datei) {
+    case Datei::Unberührt:
+        EXPECT_EQ(datei, LetzterLauf);
+        break;
+    case Datei::Leer:
+        EXPECT_EQ(datei, "");
+        break;
+    case Datei::Anfang:
+        EXPECT_TRUE(sim::corvexSpeicher(30).startsWith(datei));
+        EXPECT_TRUE(ausgabe.endsWith("Datenübertragung abgebrochen\n")) << ausgabe.toStdString();
+        break;
+    }
+    // Nothing of an aborted reception is read in.
+    const Datenbank cli = Datenbank::OpenDatabase(pfad("cli/vemotrix.db"));
+    EXPECT_EQ(cli.OpenRecordset("SELECT Count(*) FROM 0100_EinleseDaten").Field(0).toInt(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Familien, KabelTest, ::testing::ValuesIn(Phasen), [](const ::testing::TestParamInfo<Phase>& info) {
+        QString name = QString::number(info.param.typ) + "_" + info.param.name;
+        return name.replace(' ', '_').replace("ö", "oe").replace("ä", "ae").replace("ü", "ue").toStdString();
+    });
+
+} // namespace
