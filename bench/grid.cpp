@@ -1,6 +1,8 @@
 // The refresh of the read-in grid over many rows: once with every key already settled (the
 // refresh after an edit or a partial take-over), once from typed numbers only, where the refresh
-// writes the customer and plant keys over several passes.
+// writes the customer and plant keys over several passes. Beside it the cost of the commits the
+// first refresh made, each row's keys committing by themselves.
+#include "Commitkosten.h"
 #include "core/ModulState.h"
 #include "grid/EinleseDatenController.h"
 #include "platform/AufzeichnungsUi.h"
@@ -74,8 +76,12 @@ void BM_RefreshResolving(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         bestand.schlüsselZurücksetzen();
+        const qint64 commitsVorher = modul().db.commits();
         state.ResumeTiming();
         formular.EinleseGridRefresh(1, n);
+        state.PauseTiming();
+        bench::commitsDerLäufe()[n] = modul().db.commits() - commitsVorher;
+        state.ResumeTiming();
     }
     state.SetComplexityN(n);
 }
@@ -84,6 +90,7 @@ void BM_RefreshResolving(benchmark::State& state) {
 
 BENCHMARK(BM_RefreshSettled)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond)->Complexity();
 BENCHMARK(BM_RefreshResolving)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond)->Complexity();
+BENCHMARK(bench::Commits)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);

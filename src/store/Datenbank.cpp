@@ -53,6 +53,10 @@ void Datenbank::Close() {
     m_v.reset();
 }
 
+qint64 Datenbank::commits() const {
+    return v().commits();
+}
+
 void Datenbank::setWartezeit(std::chrono::milliseconds wartezeit) const {
     sqlite3_busy_timeout(v().db(), int(wartezeit.count()));
 }

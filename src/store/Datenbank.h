@@ -46,6 +46,9 @@ public:
     void Close();
     // How long a write waits for a lock that another writer holds before it fails with 3260.
     void setWartezeit(std::chrono::milliseconds wartezeit) const;
+    // The transactions written through this connection, each Update's own among them: what a run
+    // must at least cost is what its commits cost.
+    qint64 commits() const;
 
     Recordset OpenRecordset(const QString& quelle) const;
     void Execute(const QString& anweisung) const;

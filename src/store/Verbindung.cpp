@@ -191,8 +191,22 @@ Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
         m_db = nullptr;
         throw fehler::mit(fehler::Schreibgeschützt, pfad);
     }
+    // SQLite opens a file it may not write for reading only; every command of the component
+    // writes, so such a file is refused here with one message instead of one at each write.
+    if (sqlite3_db_readonly(m_db, "main") == 1) {
+        sqlite3_close(m_db);
+        m_db = nullptr;
+        throw fehler::mit(fehler::Schreibgeschützt, pfad);
+    }
     // Opened shared with the host: a lock held there makes us wait, not fail.
     sqlite3_busy_timeout(m_db, 15000);
+    sqlite3_commit_hook(
+        m_db,
+        [](void* zähler) {
+            ++*static_cast<qint64*>(zähler);
+            return 0;
+        },
+        &m_commits);
     funktionenAnmelden(m_db);
     char* fehlerText = nullptr;
     const int rc2 = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;", nullptr,

@@ -53,6 +53,7 @@ public:
 
     sqlite3* db() const { return m_db; }
     const QString& pfad() const { return m_pfad; }
+    qint64 commits() const { return m_commits; }
 
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
     Anweisung anweisung(const QString& sql);
@@ -86,6 +87,7 @@ private:
     QHash<QString, Cache::iterator> m_anweisungen;
     QHash<QString, std::shared_ptr<const Tabelle>> m_tabellen; // by lower-case name
     int m_sperren = 0;
+    qint64 m_commits = 0;
 };
 
 // A hold on the write lock for as long as the object lives, or until it is given back.
