@@ -76,7 +76,7 @@ Recordset Datenbank::OpenRecordset(const QString& quelle) const {
 
 Recordset Datenbank::OpenRecordset(const QString& anweisung, const QVector<QVariant>& werte) const {
     v(); // raises 91 when the database is closed
-    return Recordset(detail::abfrageÖffnen(m_v, anweisung, übersetzen(anweisung), werte));
+    return Recordset(detail::abfrageÖffnen(m_v, anweisung, v().übersetzung(anweisung), werte));
 }
 
 void Datenbank::Execute(const QString& anweisung) const {
@@ -84,7 +84,7 @@ void Datenbank::Execute(const QString& anweisung) const {
 }
 
 void Datenbank::Execute(const QString& anweisung, const QVector<QVariant>& werte) const {
-    const Übersetzung ü = übersetzen(anweisung);
+    const Übersetzung ü = v().übersetzung(anweisung);
     detail::Schritt s(v().anweisung(ü.sql));
     s.platzhalterBinden(werte);
     while (s.weiter()) {
@@ -158,7 +158,7 @@ QVariant& QueryDef::Parameters(const QString& name) {
 Recordset QueryDef::OpenRecordset() const {
     if (!m_v)
         throw Fehler(91, "Objektvariable oder With-Blockvariable nicht festgelegt");
-    return Recordset(detail::abfrageÖffnen(m_v, m_name, übersetzen(m_text), m_werte));
+    return Recordset(detail::abfrageÖffnen(m_v, m_name, m_v->übersetzung(m_text), m_werte));
 }
 
 } // namespace vemo

@@ -11,9 +11,9 @@
 #include <algorithm>
 #include <cassert>
 #include <climits>
+#include <deque>
 #include <map>
 #include <optional>
-#include <vector>
 
 namespace vemo {
 namespace detail {
@@ -23,6 +23,15 @@ struct Spalte {
     QString typ;
     Typklasse klasse = Typklasse::Frei;
     int tabellenIndex = -1; // the column of the writable table it comes from
+};
+
+// What the rows of a statement hold, the same each time the statement is opened.
+struct Abfrageform {
+    QString abfrage;
+    bool mitRowid = false;
+    QVector<Spalte> spalten;
+    QHash<QString, int> spaltenIndex;
+    std::shared_ptr<const Verbindung::Tabelle> tabelle;
 };
 
 struct Zeile {
@@ -45,9 +54,11 @@ struct RecordsetDaten {
     bool mitRowid = false;
     QVector<QVariant> parameter;
     QVector<Spalte> spalten;
-    QHash<QString, int> spaltenIndex; // by lower-case name
+    QHash<QString, int> spaltenIndex; // by lower-case name, and by the name as spelled
 
-    std::vector<Zeile> zeilen;
+    // Rows taken over or deleted while the cursor walks forward leave from the front: a deque lets
+    // them go without moving all the rows behind them.
+    std::deque<Zeile> zeilen;
     bool vollständig = false;
     qint64 letzteRowid = LLONG_MIN;
     std::map<qint64, Bookmark> vorgemerkt; // rows added here that paging has not reached yet
@@ -143,12 +154,20 @@ struct RecordsetDaten {
     bool eof() { return pos >= 0 && !holen(pos); }
     bool leer() { return !holen(0); }
 
+    // By lower-case name, and by the name as the statement spells it: the logic asks for fields row
+    // after row in the spelling of the schema, which then needs no folding.
     void spaltenErfassen() {
         for (int i = 0; i < spalten.size(); ++i)
             spaltenIndex.insert(spalten[i].name.toLower(), i);
+        // A name with capitals never meets a lower-case one; it finds what its folding finds.
+        for (const Spalte& s : std::as_const(spalten))
+            if (const QString klein = s.name.toLower(); klein != s.name)
+                spaltenIndex.insert(s.name, spaltenIndex.value(klein));
     }
 
     int index(const QString& feld) const {
+        if (const auto it = spaltenIndex.constFind(feld); it != spaltenIndex.cend())
+            return *it;
         if (const auto it = spaltenIndex.constFind(feld.toLower()); it != spaltenIndex.cend())
             return *it;
         // "[0100_Anlage].Code" and "Kunde.Name" name the column of a table.
@@ -616,6 +635,19 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
     d->v = v;
     d->name = name;
     d->parameter = parameter;
+    // A form stays good while the statement gives as many columns: another workplace may have
+    // changed the table since.
+    const auto form = v->abfrageform(ü.sql);
+    if (form && sqlite3_column_count(v->anweisung(form->abfrage).get()) ==
+                    form->spalten.size() + (form->mitRowid ? 1 : 0)) {
+        d->abfrage = form->abfrage;
+        d->mitRowid = form->mitRowid;
+        d->spalten = form->spalten;
+        d->spaltenIndex = form->spaltenIndex;
+        d->tabelle = form->tabelle;
+        d->laden();
+        return d;
+    }
     // Held, not borrowed: looking up the table below prepares statements that may push it out of
     // the cache.
     Anweisung s;
@@ -654,6 +686,8 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
         }
     }
     d->spaltenErfassen();
+    v->abfrageformMerken(ü.sql, std::make_shared<const Abfrageform>(Abfrageform{
+                                    d->abfrage, d->mitRowid, d->spalten, d->spaltenIndex, d->tabelle}));
     d->laden();
     return d;
 }

@@ -191,13 +191,6 @@ Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
         m_db = nullptr;
         throw fehler::mit(fehler::Schreibgeschützt, pfad);
     }
-    // SQLite opens a file it may not write for reading only; every command of the component
-    // writes, so such a file is refused here with one message instead of one at each write.
-    if (sqlite3_db_readonly(m_db, "main") == 1) {
-        sqlite3_close(m_db);
-        m_db = nullptr;
-        throw fehler::mit(fehler::Schreibgeschützt, pfad);
-    }
     // Opened shared with the host: a lock held there makes us wait, not fail.
     sqlite3_busy_timeout(m_db, 15000);
     sqlite3_commit_hook(
@@ -318,7 +311,35 @@ QVector<QVariant> Verbindung::vorgabenJetzt(const Tabelle& t) {
     return v;
 }
 
+namespace {
+// Texts with keys spliced in are rarely seen twice: the kept ones start afresh when there are many.
+constexpr int FormenHöchstens = 4 * Verbindung::AnweisungenImCache;
+
+template <typename Wert> void merken(QHash<QString, Wert>& formen, const QString& text, Wert wert) {
+    if (formen.size() >= FormenHöchstens)
+        formen.clear();
+    formen.insert(text, std::move(wert));
+}
+} // namespace
+
+Übersetzung Verbindung::übersetzung(const QString& dialekt) {
+    if (const auto it = m_übersetzungen.constFind(dialekt); it != m_übersetzungen.cend())
+        return *it;
+    Übersetzung ü = übersetzen(dialekt);
+    merken(m_übersetzungen, dialekt, ü);
+    return ü;
+}
+
+std::shared_ptr<const Abfrageform> Verbindung::abfrageform(const QString& sql) const {
+    return m_abfrageformen.value(sql);
+}
+
+void Verbindung::abfrageformMerken(const QString& sql, std::shared_ptr<const Abfrageform> form) {
+    merken(m_abfrageformen, sql, std::move(form));
+}
+
 void Verbindung::schemaGeändert() {
+    m_abfrageformen.clear();
     m_tabellen.clear();
     m_anweisungen.clear();
     m_zuletzt.clear();

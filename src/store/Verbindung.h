@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Dialekt.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -11,6 +13,8 @@
 #include <utility>
 
 namespace vemo::detail {
+
+struct Abfrageform;
 
 // What a column holds by its declared type: numbers, text, dates, or whatever comes (no type).
 enum class Typklasse { Frei, Text, Zahl, Datum };
@@ -57,6 +61,12 @@ public:
 
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
     Anweisung anweisung(const QString& sql);
+    // A statement of the host's dialect translated, and what the rows of a translated SELECT hold.
+    // Both are kept for the statements that a run repeats, such as a function name looked up for
+    // each value; null where a form is not known yet.
+    Übersetzung übersetzung(const QString& dialekt);
+    std::shared_ptr<const Abfrageform> abfrageform(const QString& sql) const;
+    void abfrageformMerken(const QString& sql, std::shared_ptr<const Abfrageform> form);
     int anweisungenImCache() const { return int(m_anweisungen.size()); }
     // What the store knows of a table; null when there is no such table. Record sets keep their
     // table's description alive, also across a change of the schema.
@@ -86,6 +96,8 @@ private:
     Cache m_zuletzt;
     QHash<QString, Cache::iterator> m_anweisungen;
     QHash<QString, std::shared_ptr<const Tabelle>> m_tabellen; // by lower-case name
+    QHash<QString, Übersetzung> m_übersetzungen;
+    QHash<QString, std::shared_ptr<const Abfrageform>> m_abfrageformen;
     int m_sperren = 0;
     qint64 m_commits = 0;
 };
