@@ -38,7 +38,8 @@ CREATE TABLE "0100_Anlage" (
   "NächstePrüfung" DATETIME DEFAULT (date('now', 'localtime')),
   Intervall SMALLINT DEFAULT 48
 );
-CREATE INDEX Anlage_KundeID ON "0100_Anlage" (KundeID);
+-- A plant, board or circuit is found by its code under its parent: the take-over and the grid.
+CREATE INDEX Anlage_KundeID ON "0100_Anlage" (KundeID, Code);
 
 CREATE TABLE "0100_Prüfung" (
   "PrüfungID" INTEGER NOT NULL PRIMARY KEY,
@@ -83,7 +84,7 @@ CREATE TABLE "0100_Verteiler" (
   Nr TEXT(50) COLLATE NOCASE DEFAULT '',
   Bemerkung TEXT COLLATE NOCASE DEFAULT ''
 );
-CREATE INDEX Verteiler_PruefungID ON "0100_Verteiler" ("PrüfungID");
+CREATE INDEX Verteiler_PruefungID ON "0100_Verteiler" ("PrüfungID", Code);
 
 CREATE TABLE "0100_Stromkreis" (
   StromkreisID INTEGER NOT NULL PRIMARY KEY,
@@ -97,7 +98,7 @@ CREATE TABLE "0100_Stromkreis" (
   SicherungsTypID INTEGER DEFAULT 0,
   RCDTypID INTEGER DEFAULT 0
 );
-CREATE INDEX Stromkreis_VerteilerID ON "0100_Stromkreis" (VerteilerID);
+CREATE INDEX Stromkreis_VerteilerID ON "0100_Stromkreis" (VerteilerID, Code);
 
 -- One measurement row of a circuit; the value columns are those named in 0100_TeilFunktion.
 CREATE TABLE "0100_Messung" (
