@@ -25,10 +25,8 @@ struct Spalte {
     int tabellenIndex = -1; // the column of the writable table it comes from
 };
 
-// What the rows of a statement hold, the same each time the statement is opened.
+// What the rows of a statement hold: the same for every statement of one column shape.
 struct Abfrageform {
-    QString abfrage;
-    bool mitRowid = false;
     QVector<Spalte> spalten;
     QHash<QString, int> spaltenIndex;
     std::shared_ptr<const Verbindung::Tabelle> tabelle;
@@ -629,25 +627,47 @@ std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>
     return d;
 }
 
+// What a statement's columns are and where they come from; statements that differ only in the
+// keys spliced into them have the same.
+QString spaltengestalt(sqlite3_stmt* s, int versatz) {
+    QByteArray gestalt = QByteArray::number(versatz);
+    for (int i = versatz; i < sqlite3_column_count(s); ++i)
+        for (const char* teil : {sqlite3_column_name(s, i), sqlite3_column_decltype(s, i),
+                                 sqlite3_column_table_name(s, i), sqlite3_column_origin_name(s, i)})
+            gestalt.append('\x1f').append(teil ? teil : "");
+    return QString::fromUtf8(gestalt);
+}
+
+void spaltenLesen(RecordsetDaten& d, sqlite3_stmt* s, int versatz) {
+    const int anzahl = sqlite3_column_count(s);
+    QString tabellenName;
+    for (int i = versatz; i < anzahl; ++i) {
+        Spalte sp;
+        sp.name = QString::fromUtf8(sqlite3_column_name(s, i));
+        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s, i));
+        sp.klasse = typklasse(sp.typ);
+        if (const char* t = sqlite3_column_table_name(s, i); t && tabellenName.isEmpty())
+            tabellenName = QString::fromUtf8(t);
+        d.spalten.push_back(sp);
+    }
+    if (d.mitRowid && !tabellenName.isEmpty()) {
+        d.tabelle = d.v->tabelle(tabellenName);
+        for (int i = versatz; i < anzahl && d.tabelle; ++i) {
+            const char* t = sqlite3_column_table_name(s, i);
+            const char* ursprung = sqlite3_column_origin_name(s, i);
+            if (t && ursprung && tabellenName.compare(QString::fromUtf8(t), Qt::CaseInsensitive) == 0)
+                d.spalten[i - versatz].tabellenIndex = d.tabelle->index(QString::fromUtf8(ursprung));
+        }
+    }
+    d.spaltenErfassen();
+}
+
 std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>& v, const QString& name,
                                               const Übersetzung& ü, const QVector<QVariant>& parameter) {
     auto d = std::make_shared<RecordsetDaten>();
     d->v = v;
     d->name = name;
     d->parameter = parameter;
-    // A form stays good while the statement gives as many columns: another workplace may have
-    // changed the table since.
-    const auto form = v->abfrageform(ü.sql);
-    if (form && sqlite3_column_count(v->anweisung(form->abfrage).get()) ==
-                    form->spalten.size() + (form->mitRowid ? 1 : 0)) {
-        d->abfrage = form->abfrage;
-        d->mitRowid = form->mitRowid;
-        d->spalten = form->spalten;
-        d->spaltenIndex = form->spaltenIndex;
-        d->tabelle = form->tabelle;
-        d->laden();
-        return d;
-    }
     // Held, not borrowed: looking up the table below prepares statements that may push it out of
     // the cache.
     Anweisung s;
@@ -665,29 +685,16 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
         d->abfrage = ü.sql;
     }
     const int versatz = d->mitRowid ? 1 : 0;
-    const int anzahl = sqlite3_column_count(s.get());
-    QString tabellenName;
-    for (int i = versatz; i < anzahl; ++i) {
-        Spalte sp;
-        sp.name = QString::fromUtf8(sqlite3_column_name(s.get(), i));
-        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s.get(), i));
-        sp.klasse = typklasse(sp.typ);
-        if (const char* t = sqlite3_column_table_name(s.get(), i); t && tabellenName.isEmpty())
-            tabellenName = QString::fromUtf8(t);
-        d->spalten.push_back(sp);
+    const QString gestalt = spaltengestalt(s.get(), versatz);
+    if (const auto form = v->abfrageform(gestalt)) {
+        d->spalten = form->spalten;
+        d->spaltenIndex = form->spaltenIndex;
+        d->tabelle = form->tabelle;
+    } else {
+        spaltenLesen(*d, s.get(), versatz);
+        v->abfrageformMerken(gestalt, std::make_shared<const Abfrageform>(
+                                          Abfrageform{d->spalten, d->spaltenIndex, d->tabelle}));
     }
-    if (d->mitRowid && !tabellenName.isEmpty()) {
-        d->tabelle = v->tabelle(tabellenName);
-        for (int i = versatz; i < anzahl && d->tabelle; ++i) {
-            const char* t = sqlite3_column_table_name(s.get(), i);
-            const char* ursprung = sqlite3_column_origin_name(s.get(), i);
-            if (t && ursprung && tabellenName.compare(QString::fromUtf8(t), Qt::CaseInsensitive) == 0)
-                d->spalten[i - versatz].tabellenIndex = d->tabelle->index(QString::fromUtf8(ursprung));
-        }
-    }
-    d->spaltenErfassen();
-    v->abfrageformMerken(ü.sql, std::make_shared<const Abfrageform>(Abfrageform{
-                                    d->abfrage, d->mitRowid, d->spalten, d->spaltenIndex, d->tabelle}));
     d->laden();
     return d;
 }

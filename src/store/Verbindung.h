@@ -61,12 +61,12 @@ public:
 
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
     Anweisung anweisung(const QString& sql);
-    // A statement of the host's dialect translated, and what the rows of a translated SELECT hold.
-    // Both are kept for the statements that a run repeats, such as a function name looked up for
-    // each value; null where a form is not known yet.
+    // A statement of the host's dialect translated, kept for the statements that a run repeats,
+    // such as a function name looked up for each value; and what the rows of a SELECT hold, by the
+    // shape of its columns, null where that shape has not been seen yet.
     Übersetzung übersetzung(const QString& dialekt);
-    std::shared_ptr<const Abfrageform> abfrageform(const QString& sql) const;
-    void abfrageformMerken(const QString& sql, std::shared_ptr<const Abfrageform> form);
+    std::shared_ptr<const Abfrageform> abfrageform(const QString& gestalt) const;
+    void abfrageformMerken(const QString& gestalt, std::shared_ptr<const Abfrageform> form);
     int anweisungenImCache() const { return int(m_anweisungen.size()); }
     // What the store knows of a table; null when there is no such table. Record sets keep their
     // table's description alive, also across a change of the schema.
