@@ -20,9 +20,15 @@ struct Kriterium::Knoten {
 
 namespace {
 
+// The conjunctions, negations and brackets a criterion may hold. Each one makes the tree a level
+// deeper, and reading, testing and freeing it go down that deep on the stack; the system's own
+// criteria hold a handful, a text with more is refused before the stack runs out.
+constexpr int HöchsteVerknüpfungen = 500;
+
 struct Leser {
     QString s;
     int i = 0;
+    int verknüpfungen = 0;
 
     void leer() {
         while (i < s.size() && s[i].isSpace())
@@ -40,6 +46,10 @@ struct Leser {
         return true;
     }
     [[noreturn]] void fehler() const { throw fehler::mit(fehler::SyntaxFehler, s); }
+    void verknüpft() {
+        if (++verknüpfungen > HöchsteVerknüpfungen)
+            fehler();
+    }
 
     QString name() {
         leer();
@@ -106,6 +116,7 @@ struct Leser {
     std::unique_ptr<Kriterium::Knoten> oder() {
         auto l = und();
         while (wort("Or")) {
+            verknüpft();
             auto k = std::make_unique<Kriterium::Knoten>();
             k->art = Kriterium::Knoten::Art::Oder;
             k->links = std::move(l);
@@ -117,6 +128,7 @@ struct Leser {
     std::unique_ptr<Kriterium::Knoten> und() {
         auto l = faktor();
         while (wort("And")) {
+            verknüpft();
             auto k = std::make_unique<Kriterium::Knoten>();
             k->art = Kriterium::Knoten::Art::Und;
             k->links = std::move(l);
@@ -128,12 +140,14 @@ struct Leser {
     std::unique_ptr<Kriterium::Knoten> faktor() {
         leer();
         if (wort("Not")) {
+            verknüpft();
             auto k = std::make_unique<Kriterium::Knoten>();
             k->art = Kriterium::Knoten::Art::Nicht;
             k->links = faktor();
             return k;
         }
         if (i < s.size() && s[i] == '(') {
+            verknüpft();
             ++i;
             auto k = oder();
             leer();
@@ -154,7 +168,7 @@ struct Leser {
         k->art = Kriterium::Knoten::Art::Vergleich;
         leer();
         for (const char* op : {"<>", "<=", ">=", "=", "<", ">"}) {
-            if (s.mid(i).startsWith(op)) {
+            if (QStringView(s).mid(i).startsWith(QLatin1String(op))) {
                 k->op = op;
                 i += int(strlen(op));
                 break;

@@ -148,6 +148,25 @@ TEST_F(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
     EXPECT_EQ(fehlerNummer([&] { w.FindFirst("[1] = "); }), 3075);
 }
 
+TEST_F(RecordsetTest, CriteriaNestedTooDeepAreASyntaxErrorNotAStackOverflow) {
+    zeilen(3);
+    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
+    // Far more brackets and conjunctions than any criterion of the system still read.
+    rs.FindFirst(QString("(").repeated(60) + "MessungID = 2" + QString(")").repeated(60) +
+                 QString(" And Not MessungID = 9").repeated(60) + QString(" Or MessungID = 7").repeated(60));
+    EXPECT_FALSE(rs.NoMatch());
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 2);
+    // So deep that reading, testing or freeing the criterion used to exhaust the stack.
+    const int tief = 200000;
+    const QString verschachtelt = QString("(").repeated(tief) + "MessungID = 1" + QString(")").repeated(tief);
+    EXPECT_EQ(fehlerNummer([&] { rs.FindFirst(verschachtelt); }), 3075);
+    EXPECT_EQ(fehlerNummer([&] { rs.FindFirst(QString("Not ").repeated(tief) + "MessungID = 1"); }), 3075);
+    EXPECT_EQ(
+        fehlerNummer([&] { rs.FindFirst("MessungID = 1" + QString(" Or MessungID = 1").repeated(tief)); }),
+        3075);
+    EXPECT_EQ(rs.Field("MessungID").toInt(), 2); // a refused criterion leaves the cursor where it stood
+}
+
 TEST_F(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
     sql("INSERT INTO \"0100_Messung\" (MessID, StromkreisID, FIT) VALUES (1, 7, '20');");
     Recordset rs = db().OpenRecordset("SELECT MessID,FIT as derWert, StromkreisID as id  FROM 0100_Messung "

@@ -1,0 +1,1 @@
+INSERT INTO [0100_Kabeltyp] ( Name, Typ ) SELECT Name & 'x', 'NYM' FROM [0100_Kabeltyp] UNION SELECT DISTINCT Name, Typ FROM 0100_Kabeltyp

@@ -1,0 +1,1 @@
+(SELECT Count(*) FROM [0100_Prüfung] WHERE Typ <> False;)

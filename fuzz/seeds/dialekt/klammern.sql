@@ -1,0 +1,1 @@
+SELECT [0100_Anlage].Intervall, [0100_Anlage].NächstePrüfung FROM [0100_Anlage] WHERE ((([0100_Anlage].KundeID)=[paraKundeID]))

@@ -1,0 +1,1 @@
+DELETE * FROM 0100_EinleseGeräteDaten WHERE GeräteID = 12

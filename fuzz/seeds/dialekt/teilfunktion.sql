@@ -1,0 +1,1 @@
+SELECT * FROM 0100_TeilFunktion WHERE TeilFunktion = 'RISO'

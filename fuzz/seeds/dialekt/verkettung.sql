@@ -1,0 +1,1 @@
+UPDATE 0100_Messung SET Bemerkung = "Zs " & [Messwert] & ' Ohm', Datum = #12/31/2024# WHERE Messwert / 2 > Val("1,5") AND Bemerkung Is Null OR True
