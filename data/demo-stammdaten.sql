@@ -34,7 +34,7 @@ INSERT INTO "0100_Anlage" (AnlageID, KundeID, Name, Code, Nr, Strasse, Stadt, "N
   (40, 40, 'Workshop', '001', 'W1', '12 Mill Lane', 'York', '2029-09-30', 60);
 
 INSERT INTO "0100_Prüfung" ("PrüfungID", AnlagenID, Datum, typ, ProtokollNr) VALUES
-  (40, 40, '2024-09-12', 'Niceic', '00000040');
+  (40, 40, '2024-09-12', 'Niceic', '00000002');
 
 INSERT INTO "0100U_CertNic" (pid) VALUES (1), (40);
 
