@@ -85,7 +85,8 @@ INSERT INTO "0100_TeilfunktionUK" (TeilFunktion, Tabelle, SpaltenName, Prozedur,
 
 -- RCD trip times of the 37xx family: the time comes first and is kept; the factor row that
 -- follows says at which test current it was measured, and so which column of the circuit and of
--- its board takes it.
+-- its board takes it. The command-protocol instruments send the factor before the time, under the
+-- same names or names of their own: no factor follows their time, and it stays off the certificate.
 INSERT INTO "0100_TeilfunktionUK" (TeilFunktion, Tabelle, SpaltenName, Prozedur, Zertifikat) VALUES
   ('RCD t, M, t', '0100_Messung', 'FIT', 'Store', 'Niceic'),
   ('RCD t, E, mult.:', '0100_Messung', 'FIT_x12', 'MaxRcd_x1/2', 'Niceic'),
