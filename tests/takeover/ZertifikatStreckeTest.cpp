@@ -70,6 +70,7 @@ TEST_F(ZertifikatStrecke, WorstValuesOfCircuitBoardAndInstallation) {
     EXPECT_EQ(kreis("0001", "0003", "LOOPRS"), "0,35");
     EXPECT_EQ(kreis("0001", "0004", "LOOPRS"), "0,45");
     EXPECT_EQ(kreis("0002", "0001", "FIT_x1"), "18");
+    EXPECT_EQ(kreis("0002", "0001", "FIT_x5") + kreis("0002", "0001", "FIT_x12"), ""); // a test at x1
     EXPECT_EQ(kreis("0002", "0001", "FIT"), "");
     EXPECT_EQ(kreis("0001", "0001", "ULN"), "");
     EXPECT_EQ(wert("SELECT Max(n) FROM (SELECT Count(*) AS n FROM 0100_Messung GROUP BY StromkreisID)"), "1");
