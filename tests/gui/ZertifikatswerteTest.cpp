@@ -3,10 +3,13 @@
 #include "Hauptfenster.h"
 
 #include "core/InitTabelle.h"
+#include "grid/EinleseDatenController.h"
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
 #include "support/Testumgebung.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -166,6 +169,37 @@ TEST_F(ZertifikatswerteTest, TheOverviewShowsTheCertificateOfTheChosenInspection
         fenster.grab().save(QString::fromLocal8Bit(ziel));
     }
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+}
+
+// The grid's "Edit results" sends the window program on to the certificate of the read-in rows.
+TEST_F(ZertifikatswerteTest, EditResultsOpensTheCertificateOfTheReadInRows) {
+    spracheDatenbankAnlegen(m_dir.path());
+    m_settings.SaveSetting("Host", "Datenbank", m_dbPfad);
+    m_settings.SaveSetting("Host", "Sprache", "English (United Kingdom)");
+    sql(R"(INSERT INTO "0100_EinleseGeräteDaten" ("GeräteID", "PrüfgerätName") VALUES (1, 'ZEMAK 3710');
+           INSERT INTO "0100_EinleseDaten" (MessungID, "GeräteID", KundeID, AnlageID, "PrüfungID")
+           VALUES (1, 1, 40, 40, 40);)");
+    vemo0100Modul15a komponente(m_ui, m_settings);
+    Hauptfenster fenster(komponente, m_settings);
+    m_ui.beiDialog = [](DialogController& form) {
+        static_cast<EinleseDatenController&>(form).editResultsKlick();
+    };
+    QAction* einlesedaten = nullptr;
+    for (QAction* a : fenster.findChildren<QAction*>())
+        if (a->text() == xText("Einlesedaten"))
+            einlesedaten = a;
+    ASSERT_NE(einlesedaten, nullptr);
+    einlesedaten->trigger();
+
+    EXPECT_EQ(komponente.EinlesedatenIDRow().toInt(), 0); // taken up by the host
+    Zertifikatswerte* ergebnis = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* z = qobject_cast<Zertifikatswerte*>(w); z && z->isVisible())
+            ergebnis = z;
+    ASSERT_NE(ergebnis, nullptr);
+    EXPECT_EQ(zelle(tabelle(*ergebnis, 1), 0, "Nr"), "DB1");
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 1); // the rows wait for the take-over
+    ergebnis->close();
 }
 
 } // namespace
