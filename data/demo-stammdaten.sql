@@ -24,3 +24,25 @@ INSERT INTO "0100_Stromkreis" (StromkreisID, VerteilerID, Name, Code, Nr, Sicher
 INSERT INTO "Prüfgerät" ("PrüfgerätID", Bezeichnung, typ, Seriennummer, Inventarnummer) VALUES
   (1, '0100-Corvex', 100, '  C12345678', 'INV-07'),
   (2, '0100-Varitron', 100, '   V9876543', '');
+
+-- A customer in the United Kingdom with a certificate inspection: one board, two circuits, each
+-- circuit with its one measurement row, and the inspection's certificate record.
+INSERT INTO Kunde (KundeID, Name, Kundennummer, Nummernkreis, Firma, Strasse, Plz, Stadt) VALUES
+  (40, 'Fitzroy Building', 'K-1040', '78', 'Fitzroy Building Co', '12 Mill Lane', 'YO1 7HH', 'York');
+
+INSERT INTO "0100_Anlage" (AnlageID, KundeID, Name, Code, Nr, Strasse, Stadt, "NächstePrüfung", Intervall) VALUES
+  (40, 40, 'Workshop', '001', 'W1', '12 Mill Lane', 'York', '2029-09-30', 60);
+
+INSERT INTO "0100_Prüfung" ("PrüfungID", AnlagenID, Datum, typ, ProtokollNr) VALUES
+  (40, 40, '2024-09-12', 'Niceic', '00000002');
+
+INSERT INTO "0100U_CertNic" (pid) VALUES (1), (40);
+
+INSERT INTO "0100_Verteiler" (VerteilerID, "PrüfungID", Name, Code, Nr) VALUES
+  (40, 40, 'Main board', '001', 'DB1');
+
+INSERT INTO "0100_Stromkreis" (StromkreisID, VerteilerID, Name, Code, Nr, SicherungsTypID) VALUES
+  (40, 40, 'Sockets workshop', '001', '1', 4),
+  (41, 40, 'Lighting', '002', '2', 2);
+
+INSERT INTO "0100_Messung" (MessID, StromkreisID) VALUES (40, 40), (41, 41);

@@ -166,9 +166,6 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Die Aufzeichnung eines Datenloggers kann in dieser Version noch nicht übernommen werden. '
    || 'Die Datei bleibt erhalten.',
    'This version cannot take over a data logger recording yet. The file is kept.'),
-  ('Messwerte können in dieser Version noch nicht in ein Zertifikat übernommen werden. '
-   || 'Die Zeilen bleiben in den Einlesedaten.',
-   'This version cannot take measurements over into a certificate yet. The rows stay in the read-in data.'),
   ('Diese Funktion ist in dieser Version noch nicht verfügbar.', 'This function is not yet available in this version.'),
   ('Die Datenübernahme ist in diesem Programm nicht eingerichtet.', 'Taking over data is not set up in this program.');
 
@@ -213,6 +210,19 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Messw.', 'Meas.'),
   (': Dieser Text ist zu lang !', ': This text is too long !'),
   (': Diese Soll Länge ist zu groß !', ': This target length is too great !');
+
+-- The certificate of the window program.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Zertifikat', 'Certificate'),
+  ('Firmendaten', 'Company details'),
+  ('Neue Zertifikatsprüfung', 'New certificate inspection'),
+  ('Firma', 'Company'),
+  ('Handelsname', 'Trading title'),
+  ('Registriernummer', 'Registration No.'),
+  ('Filialnummer', 'Branch No.'),
+  ('Telefonnummer', 'Telephone No.'),
+  ('Faxnummer', 'Fax No.'),
+  ('Logo', 'Logo');
 
 UPDATE Sprache SET Deutsch = TextID WHERE Deutsch IS NULL;
 UPDATE Sprache SET "Deutsch (&Deutschland)" = Deutsch, "Deutsch (&Österreich)" = Deutsch;

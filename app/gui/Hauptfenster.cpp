@@ -1,6 +1,7 @@
 #include "Hauptfenster.h"
 
 #include "Uebersicht.h"
+#include "Zertifikatswerte.h"
 
 #include "core/Geraetetypen.h"
 #include "core/ModulState.h"
@@ -127,7 +128,14 @@ void Hauptfenster::menüsBauen() {
     vemo0100Modul15a& k = m_komponente;
     m_befehle = {
         {"Daten empfangen", [&k] { k.DatenEmpfangen(); }},
-        {"Einlesedaten", [&k] { k.EinleseDaten(); }},
+        {"Einlesedaten",
+         [this, &k] {
+             k.EinleseDaten();
+             if (k.EinlesedatenIDRow().toInt() != 1) // the grid's "Edit results"
+                 return;
+             k.setEinlesedatenIDRow(0);
+             Zertifikatswerte::ergebnisseZeigen(this);
+         }},
         {"Einlesen aus Datei", [&k] { k.EinlesenAusDatei(); }},
         {"Datenlogger", [&k] { k.DatenLogger(); }},
         {"Daten importieren", [&k] { k.DatenImportieren(); }},

@@ -1,5 +1,7 @@
 #include "Uebersicht.h"
 
+#include "Zertifikatswerte.h"
+
 #include "core/ModulState.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
@@ -66,6 +68,9 @@ Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
     rl->setContentsMargins(0, 0, 0, 0);
     rl->addWidget(m_kopf);
     rl->addWidget(m_messungen);
+    auto* zertifikat = new Zertifikatswerte;
+    rl->addWidget(zertifikat, 1);
+    connect(zertifikat, &Zertifikatswerte::prüfungAngelegt, this, &Uebersicht::aktualisieren);
     auto* teiler = new QSplitter;
     teiler->addWidget(m_baum);
     teiler->addWidget(rechts);
@@ -76,6 +81,9 @@ Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
     connect(m_baum, &QTreeWidget::itemExpanded, this, &Uebersicht::zweigFüllen);
     connect(m_baum, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* k, QTreeWidgetItem*) { messungenZeigen(k); });
+    connect(m_baum, &QTreeWidget::currentItemChanged, zertifikat, [zertifikat](QTreeWidgetItem* k) {
+        zertifikat->zeigen(k ? k->data(0, Ebene).toInt() : -1, k ? k->data(0, Schlüssel) : QVariant());
+    });
     beschriften();
 }
 

@@ -11,6 +11,7 @@
 #include "store/Variant.h"
 #include "takeover/ErdWert.h"
 #include "takeover/MesswertUebernehmen.h"
+#include "takeover/MesswertUebernehmenZertifikat.h"
 #include "takeover/Messzeilen.h"
 
 #include <QDate>
@@ -41,7 +42,7 @@ private:
     void prüfung(const Recordset& z);
     void neuePrüfung();
     void verteilerUndStromkreis(const Recordset& z);
-    bool werteÜbernehmen(const Recordset& z);
+    void werteÜbernehmen(const Recordset& z);
     bool istDachPrüfung() const;
 
     EinleseDatenController& m_form;
@@ -49,7 +50,6 @@ private:
     Laufschlüssel& m_schlüssel = laufschlüssel();
     QVariant m_letztesGerät = 0;
     QList<QVariant> m_prüfungen; // touched in this run, in order of first touch, with repeats
-    bool m_zertifikatGemeldet = false;
     Recordset m_anlage, m_prüfung, m_verteiler, m_stromkreis;
 };
 
@@ -219,19 +219,12 @@ bool Lauf::istDachPrüfung() const {
     return t.isEmpty() || t == "DACH" || t == "DACH2010";
 }
 
-// False when the row's values cannot be taken over in this version; the row then stays.
-bool Lauf::werteÜbernehmen(const Recordset& z) {
-    if (istDachPrüfung()) {
+void Lauf::werteÜbernehmen(const Recordset& z) {
+    if (istDachPrüfung())
         MesswertÜbernehmen(z.Field("MessungID"), z.Field("Datum"), z.Field("Uhrzeit"));
-        return true;
-    }
-    if (!m_zertifikatGemeldet)
-        ui().MsgBox(
-            xText("Messwerte können in dieser Version noch nicht in ein Zertifikat übernommen werden. "
-                  "Die Zeilen bleiben in den Einlesedaten."),
-            modul().anwendungstitel);
-    m_zertifikatGemeldet = true;
-    return false;
+    else
+        MesswertÜbernehmenZertifikat(z.Field("MessungID"), m_schlüssel.stromkreisID, m_schlüssel.verteilerID,
+                                     m_schlüssel.prüfungID);
 }
 
 void Lauf::zeilenÜbernehmen(Recordset& z) {
@@ -248,12 +241,11 @@ void Lauf::zeilenÜbernehmen(Recordset& z) {
             PrüfgerätEintragen(m_letztesGerät, m_prüfung, z);
         }
         verteilerUndStromkreis(z);
-        if (werteÜbernehmen(z)) {
-            modul().ListeKundeID = z.Field("KundeID");
-            modul().ListeAnlageID = m_schlüssel.anlageID;
-            modul().ListePrüfungID = m_schlüssel.prüfungID;
-            z.Delete();
-        }
+        werteÜbernehmen(z);
+        modul().ListeKundeID = z.Field("KundeID");
+        modul().ListeAnlageID = m_schlüssel.anlageID;
+        modul().ListePrüfungID = m_schlüssel.prüfungID;
+        z.Delete();
         z.MoveNext();
         balken.Value = std::min(balken.Max, balken.Value + 1);
         m_form.setFortschritt(balken);

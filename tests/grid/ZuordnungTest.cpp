@@ -49,7 +49,8 @@ TEST_F(ZuordnungTest, ACustomerForSeveralRowsClearsTheirLowerKeys) {
     QStringList namen;
     for (const auto& e : f->combo().einträge)
         namen << e.text + "=" + e.schlüssel.toString();
-    EXPECT_EQ(namen, QStringList({"Bäckerei Sommer=1", "Praxis Dr. Feldmann=3", "Wohnbau Nordhang=2"}));
+    EXPECT_EQ(namen, QStringList({"Bäckerei Sommer=1", "Fitzroy Building=40", "Praxis Dr. Feldmann=3",
+                                  "Wohnbau Nordhang=2"}));
 
     f->comboKlick(eintrag(*f, "Wohnbau Nordhang"));
     EXPECT_FALSE(f->combo().sichtbar);

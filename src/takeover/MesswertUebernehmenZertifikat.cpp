@@ -1,0 +1,77 @@
+#include "takeover/MesswertUebernehmenZertifikat.h"
+
+#include "core/ModulState.h"
+#include "store/Recordset.h"
+#include "store/Variant.h"
+#include "takeover/ProcMax.h"
+
+#include <functional>
+#include <map>
+
+namespace vemo {
+namespace {
+
+// The mapping of one block: what a "Store" row kept for the rows that follow it.
+struct Zertifikatslauf {
+    Zertifikatsschlüssel schlüssel;
+    QVariant gespeichert;
+};
+
+using Prozedur = std::function<void(Zertifikatslauf&, const Zertifikatswert&)>;
+
+const std::map<QString, Prozedur>& prozeduren() {
+    static const std::map<QString, Prozedur> p{
+        {"Store", [](Zertifikatslauf& l, const Zertifikatswert& w) { l.gespeichert = w.wert; }},
+        {"Max", [](Zertifikatslauf& l, const Zertifikatswert& w) { ProcMaxMin(true, w, l.schlüssel); }},
+        {"Min", [](Zertifikatslauf& l, const Zertifikatswert& w) { ProcMaxMin(false, w, l.schlüssel); }},
+        {"MaxBoard", [](Zertifikatslauf& l,
+                        const Zertifikatswert& w) { ProcMaxMinBoard(true, w, l.schlüssel.verteilerID); }},
+        {"MaxRoot", [](Zertifikatslauf& l,
+                       const Zertifikatswert& w) { ProcMaxMinRoot(true, w, l.schlüssel.prüfungID); }},
+    };
+    return p;
+}
+
+void prozedurAusführen(Zertifikatslauf& l, const QString& prozedur, const Zertifikatswert& w) {
+    if (const auto p = prozeduren().find(prozedur); p != prozeduren().end())
+        p->second(l, w);
+    else if (const RcdHandler* h = rcdHandlerFür(prozedur))
+        ProcMaxRcd(*h, l.gespeichert, w, l.schlüssel);
+}
+
+// The values in the order the instrument sent them, since a factor row refers to the time before
+// it. The inner join drops every function the certificate does not name.
+Recordset zuordnungÖffnen(const QVariant& messungID) {
+    return db().OpenRecordset(
+        "SELECT [0100_EinleseMessDaten].Funktion, [0100_EinleseMessDaten].Wert, "
+        "[0100_EinleseMessDaten].Einheit, [0100_TeilfunktionUK].Tabelle, [0100_TeilfunktionUK].SpaltenName, "
+        "[0100_TeilfunktionUK].Prozedur, [0100_TeilfunktionUK].Zertifikat, [0100_EinleseMessDaten].MessungID "
+        "FROM 0100_EinleseMessDaten INNER JOIN 0100_TeilfunktionUK ON [0100_EinleseMessDaten].Funktion = "
+        "[0100_TeilfunktionUK].TeilFunktion WHERE Zertifikat = '" +
+        ZertifikatNiceic + "' AND MessungID = " + text(messungID) +
+        " ORDER BY [0100_EinleseMessDaten].rowid, [0100_TeilfunktionUK].TeilfunktionUKID");
+}
+
+void zuordnen(const QVariant& messungID, const Zertifikatsschlüssel& schlüssel) {
+    Zertifikatslauf lauf{schlüssel, {}};
+    for (Recordset rs = zuordnungÖffnen(messungID); !rs.Eof(); rs.MoveNext())
+        prozedurAusführen(lauf, rs.Text("prozedur"),
+                          {rs.Text("tabelle"), rs.Text("spaltenname"), rs.Field("wert")});
+}
+
+qint64 schlüssel(const QVariant& v) {
+    return istLeer(v) ? 0 : ganzzahl(v);
+}
+
+} // namespace
+
+void MesswertÜbernehmenZertifikat(const QVariant& messungID, const QVariant& stromkreisID,
+                                  const QVariant& verteilerID, const QVariant& prüfungID) {
+    try {
+        zuordnen(messungID, {schlüssel(stromkreisID), schlüssel(verteilerID), schlüssel(prüfungID)});
+    } catch (const std::exception&) {
+        // A column the mapping names wrongly, a locked record: the mapping ends here.
+    }
+}
+
+} // namespace vemo

@@ -1,0 +1,200 @@
+#include "Uebernahmeumgebung.h"
+
+#include "parsers/Primitive.h"
+#include "store/Recordset.h"
+#include "takeover/MesswertUebernehmenZertifikat.h"
+#include "takeover/ProcMax.h"
+
+using namespace vemo;
+using test::Quellzeile;
+
+namespace {
+
+// The inspection 200 of the take-over's test fixture as a certificate, with its certificate
+// record, and a mapping of test names to every level and procedure.
+class ZertifikatTest : public test::Uebernahmeumgebung {
+protected:
+    void SetUp() override {
+        Uebernahmeumgebung::SetUp();
+        sql(R"(INSERT INTO "0100U_CertNic" (pid) VALUES (200);
+               INSERT INTO "0100_Messung" (MessID, StromkreisID) VALUES (900, 400);
+               INSERT INTO "0100_TeilfunktionUK" (TeilFunktion, Tabelle, SpaltenName, Prozedur, Zertifikat)
+               VALUES ('T min', '0100_Messung', 'RISO', 'Min', 'Niceic'),
+                      ('T max', '0100_Messung', 'LOOPRS', 'Max', 'Niceic'),
+                      ('T max', '0100U_CertNic', 'ZsMax', 'Max', 'Niceic'),
+                      ('T max', '0100_Verteiler', 'IpfMax', 'Max', 'Niceic'),
+                      ('T board', '0100_Verteiler', 'ZsMax', 'MaxBoard', 'Niceic'),
+                      ('T root', '0100U_CertNic', 'RaMax', 'MaxRoot', 'Niceic'),
+                      ('T root', '0100_Messung', 'LOW', 'MaxRoot', 'Niceic'),
+                      ('T fremd', '0100_Messung', 'LOW', 'Max', 'Anderes'),
+                      ('T kaputt', '0100_Messung', 'GibtEsNicht', 'Max', 'Niceic'),
+                      ('T unbekannt', '0100_Messung', 'LOW', 'MaxMin', 'Niceic');)");
+    }
+
+    // Maps the block onto the given keys, as the take-over does for a certificate inspection.
+    void zertifikat(const QList<Quellzeile>& zeilen, int stromkreis = 400, int verteiler = 300,
+                    int prüfung = 200) {
+        sql("DELETE FROM \"0100_EinleseMessDaten\";");
+        einlesen(zeilen, 7);
+        MesswertÜbernehmenZertifikat(7, stromkreis, verteiler, prüfung);
+    }
+    QString kreis(const QString& spalte) const {
+        return wert("SELECT [" + spalte + "] FROM [0100_Messung] WHERE StromkreisID = 400 ORDER BY MessID");
+    }
+    QString verteiler(const QString& spalte) const {
+        return wert("SELECT [" + spalte + "] FROM [0100_Verteiler] WHERE VerteilerID = 300");
+    }
+    QString anlage(const QString& spalte) const {
+        return wert("SELECT [" + spalte + "] FROM [0100U_CertNic] WHERE pid = 200");
+    }
+};
+
+TEST_F(ZertifikatTest, EachLevelKeepsItsWorstValue) {
+    zertifikat({{"T min", "5", "MOhm"}, {"T max", "0,4", "Ohm"}, {"T board", "0,4", "Ohm"}});
+    zertifikat({{"T min", "3", "MOhm"}, {"T max", "0,35", "Ohm"}, {"T board", "0,6", "Ohm"}});
+    EXPECT_EQ(kreis("RISO"), "3");
+    EXPECT_EQ(kreis("LOOPRS"), "0,4");
+    EXPECT_EQ(anlage("ZsMax"), "0,4");
+    EXPECT_EQ(verteiler("IpfMax"), "0,4");
+    EXPECT_EQ(verteiler("ZsMax"), "0,6");
+
+    zertifikat({{"T min", "7", "MOhm"}, {"T max", "1.5", "Ohm"}, {"T root", "12", "Ohm"}});
+    EXPECT_EQ(kreis("RISO"), "3");
+    EXPECT_EQ(kreis("LOOPRS"), "1.5");
+    EXPECT_EQ(anlage("RaMax"), "12");
+    EXPECT_EQ(kreis("LOW"), ""); // the installation's procedure writes no circuit
+    EXPECT_EQ(anzahl("0100_Messung"), 1);
+}
+
+// A value with a sign is judged by its sign alone: one marked worse always wins, even over another
+// marked value, and a plain number never beats a marked old value.
+TEST_F(ZertifikatTest, SignedValuesAreDecidedByTheirSign) {
+    zertifikat({{"T board", "150", "A"}, {"T min", "200", "MOhm"}});
+    zertifikat({{"T board", ">3", "A"}, {"T min", ">500", "MOhm"}});
+    EXPECT_EQ(verteiler("ZsMax"), ">3");
+    EXPECT_EQ(kreis("RISO"), "200");
+    zertifikat({{"T board", "5000", "A"}, {"T min", "<1", "MOhm"}});
+    EXPECT_EQ(verteiler("ZsMax"), ">3");
+    EXPECT_EQ(kreis("RISO"), "<1");
+    zertifikat({{"T board", ">2", "A"}, {"T min", "0,1", "MOhm"}, {"T min", "<0,5", "MOhm"}});
+    EXPECT_EQ(verteiler("ZsMax"), ">2");
+    EXPECT_EQ(kreis("RISO"), "<0,5");
+}
+
+// The trip time comes first and waits for its factor row, which picks the column of the circuit
+// and of the board; a handler of another factor leaves everything alone.
+TEST_F(ZertifikatTest, TheFactorRowPlacesTheTripTime) {
+    zertifikat({{"RCD t, M, t", "18", "ms"}, {"RCD t, E, Idn", "30", "mA"}, {"RCD t, E, mult.:", "x1", ""}});
+    EXPECT_EQ(kreis("FIT_x1"), "18");
+    EXPECT_EQ(verteiler("FIT_x1"), "18");
+    EXPECT_EQ(kreis("FIT_x5"), "");
+    EXPECT_EQ(kreis("FIT_x12"), "");
+    EXPECT_EQ(verteiler("FIT_x5"), "");
+    EXPECT_EQ(kreis("FIT"), ""); // the kept time itself is written nowhere
+
+    zertifikat({{"RCD t, M, t", "12", "ms"},
+                {"RCD t, E, mult.:", "x1", ""},
+                {"RCD t, M, t", "9", "ms"},
+                {"RCD t, E, mult.:", "x5", ""},
+                {"RCD t, M, t", ">300", "ms"},
+                {"RCD t, E, mult.:", "x1/2", ""}});
+    EXPECT_EQ(kreis("FIT_x1"), "18");
+    EXPECT_EQ(kreis("FIT_x5"), "9");
+    EXPECT_EQ(kreis("FIT_x12"), ">300");
+    EXPECT_EQ(verteiler("FIT_x12"), ">300");
+    zertifikat({{"RCD t, M, t", "25", "ms"}, {"RCD t, E, mult.:", "x1", ""}});
+    EXPECT_EQ(kreis("FIT_x1"), "25");
+    EXPECT_EQ(verteiler("FIT_x1"), "25");
+    EXPECT_EQ(anzahl("0100_Messung"), 1);
+}
+
+// An old circuit without measurement row gets one from its first value, by a value procedure or by
+// an RCD handler; a board or certificate record that is missing is not made.
+TEST_F(ZertifikatTest, OnlyTheCircuitGetsAMissingRecord) {
+    sql(R"(DELETE FROM "0100_Messung"; DELETE FROM "0100U_CertNic";)");
+    zertifikat({{"T max", "0,8", "Ohm"}, {"T root", "20", "Ohm"}});
+    EXPECT_EQ(wert("SELECT StromkreisID || ' ' || LOOPRS FROM 0100_Messung WHERE MessID >= 10000"),
+              "400 0,8");
+    EXPECT_EQ(anzahl("0100U_CertNic"), 0);
+
+    sql(R"(DELETE FROM "0100_Messung";)");
+    zertifikat({{"RCD t, M, t", "40", "ms"}, {"RCD t, E, mult.:", "x5", ""}});
+    EXPECT_EQ(wert("SELECT StromkreisID || ' ' || FIT_x5 FROM 0100_Messung"), "400 40");
+    EXPECT_EQ(anzahl("0100_Messung"), 1);
+    EXPECT_EQ(verteiler("FIT_x5"), "40");
+}
+
+// A read-in row without circuit, or without board, passes over the values of the missing levels and
+// still writes those of the installation.
+TEST_F(ZertifikatTest, ALevelWithoutKeyIsPassedOver) {
+    zertifikat({{"T max", "0,9", "Ohm"}, {"RCD t, M, t", "20", "ms"}, {"RCD t, E, mult.:", "x1", ""}}, 0);
+    EXPECT_EQ(kreis("LOOPRS"), "");
+    EXPECT_EQ(kreis("FIT_x1"), "");
+    EXPECT_EQ(anzahl("0100_Messung"), 1);
+    EXPECT_EQ(verteiler("IpfMax"), "0,9");
+    EXPECT_EQ(verteiler("FIT_x1"), "20");
+    EXPECT_EQ(anlage("ZsMax"), "0,9");
+
+    zertifikat({{"T max", "1,9", "Ohm"},
+                {"T board", "1,9", "Ohm"},
+                {"RCD t, M, t", "30", "ms"},
+                {"RCD t, E, mult.:", "x1", ""}},
+               0, 0);
+    EXPECT_EQ(verteiler("IpfMax"), "0,9");
+    EXPECT_EQ(verteiler("ZsMax"), "");
+    EXPECT_EQ(verteiler("FIT_x1"), "20");
+    EXPECT_EQ(anlage("ZsMax"), "1,9");
+
+    // A circuit key with no board is no circuit of a certificate either.
+    zertifikat({{"T max", "2,9", "Ohm"}}, 400, 0);
+    EXPECT_EQ(kreis("LOOPRS"), "");
+    EXPECT_EQ(anlage("ZsMax"), "2,9");
+}
+
+// What the certificate does not know goes nowhere, silently; a mapping that names a column that
+// does not exist ends the block there, keeping what came before.
+TEST_F(ZertifikatTest, UnknownFunctionsAndProceduresAreDropped) {
+    zertifikat({{"R ISO, M, U", "500", "V"},
+                {"T fremd", "0,3", "Ohm"},
+                {"T unbekannt", "0,3", "Ohm"},
+                {"T max", "0,5", "Ohm"}});
+    EXPECT_EQ(kreis("LOOPRS"), "0,5");
+    EXPECT_EQ(kreis("LOW"), "");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Messung WHERE UISO <> '' OR VISO <> ''"), "0");
+
+    zertifikat({{"T min", "4", "MOhm"}, {"T kaputt", "1", "Ohm"}, {"T max", "0,7", "Ohm"}});
+    EXPECT_EQ(kreis("RISO"), "4");
+    EXPECT_EQ(kreis("LOOPRS"), "0,5");
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+}
+
+// Every row of the certificate's host data leads to a column that exists, by a procedure the
+// mapping knows: a misspelt one would end the mapping of every block that has the name.
+TEST_F(ZertifikatTest, TheHostDataLeadToExistingColumns) {
+    const QStringList einfache{"Store", "Max", "Min", "MaxBoard", "MaxRoot"};
+    Recordset rs =
+        modul().db.OpenRecordset("SELECT * FROM 0100_TeilfunktionUK WHERE TeilFunktion NOT LIKE 'T %'");
+    int zeilen = 0;
+    for (; !rs.Eof(); rs.MoveNext(), ++zeilen) {
+        const QString name = rs.Text("TeilFunktion");
+        const QString tabelle = rs.Text("tabelle");
+        EXPECT_TRUE(QStringList({"0100_Messung", "0100_Verteiler", "0100U_CertNic"}).contains(tabelle))
+            << name.toStdString();
+        const Recordset spalten = modul().db.OpenRecordset("SELECT * FROM [" + tabelle + "] WHERE 0 = 1");
+        EXPECT_GE(spalten.FieldIndex(rs.Text("spaltenname")), 0) << name.toStdString();
+        const QString prozedur = rs.Text("prozedur");
+        EXPECT_TRUE(einfache.contains(prozedur) || rcdHandlerFür(prozedur)) << name.toStdString();
+        EXPECT_EQ(rs.Text("Zertifikat"), ZertifikatNiceic);
+    }
+    EXPECT_GT(zeilen, 60);
+
+    // The 37xx family's names of the values a certificate records are found by the look-up the
+    // parsers have for it.
+    for (const QString name : {"Z LOOP, M, Z", "Z LOOP, M, Isc", "R ISO, M, R", "LOW Ohm", "m_KTS_CONTR",
+                               "RCD t, M, t", "RCD t, E, mult.:", "Spannung Uac", "Re"})
+        EXPECT_FALSE(TeilFunktionUKSuchen(ZertifikatNiceic, name).Eof()) << name.toStdString();
+    EXPECT_TRUE(TeilFunktionUKSuchen(ZertifikatNiceic, "R ISO, M, U").Eof());
+    EXPECT_TRUE(TeilFunktionUKSuchen("Anderes", "Z LOOP, M, Z").Eof());
+}
+
+} // namespace
