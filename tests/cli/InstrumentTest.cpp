@@ -120,6 +120,10 @@ TEST_F(InstrumentTest, NoInstrumentAnsweringIsNoConnection) {
     sim.prozess().waitForReadyRead(200);
     EXPECT_FALSE(sim.protokoll().join('\n').contains("identification set"));
 
+    const Lauf ohnePort = vemo({"instrument"}, {"--port", pfad("nirgends")});
+    EXPECT_EQ(ohnePort.status, 1);
+    EXPECT_TRUE(ohnePort.fehler.startsWith("vemotrix professional: Ungültige Anschlussnummer"))
+        << ohnePort.fehler.toStdString();
     EXPECT_EQ(vemo({"instrument"}).status, 2) << "no port to ask";
     EXPECT_EQ(amPort({"--customer-digits", "4"}).status, 2);
     EXPECT_EQ(amPort({"--board-digits", "x"}).status, 2);
