@@ -173,7 +173,7 @@ TEST_F(ZemakEinstellungTest, TheQuentavoirDialogDoesNotTakeAZemak) {
 // The dialog over the pseudo-terminal: cable out shows "(keine Verbindung)" at the next tick,
 // cable back the instrument again, until the dialog is closed; the port closes with it.
 TEST_F(ZemakEinstellungTest, PollingFollowsTheCableOutAndBackIn) {
-    Simulator sim({"--type", "104", "--records", "2", "--link", pfad("port"), "--unplug-after", "3000",
+    Simulator sim({"--type", "104", "--records", "2", "--link", pfad("port"), "--unplug-after", "4000",
                    "--unplug-for", "2500"});
     ASSERT_FALSE(sim.gerät().isEmpty());
     modul().commPortFabrik = nullptr;
@@ -190,7 +190,7 @@ TEST_F(ZemakEinstellungTest, PollingFollowsTheCableOutAndBackIn) {
             if (gezeigt.size() == 3)
                 form->ComSchließen();
         });
-        QTimer::singleShot(12000, form, [&, form] {
+        QTimer::singleShot(14000, form, [&, form] {
             wachhund = true;
             form->ComSchließen();
         });
