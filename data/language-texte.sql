@@ -66,7 +66,9 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('ID an Prüfgerät senden', 'Send ID to the instrument'),
   ('Datum und Uhrzeit an Prüfgerät senden', 'Send date and time to the instrument'),
   ('Prüfgerätespeicher löschen', 'Clear instrument memory'),
-  ('Sicher Prüfgerätespeicher?', 'Really clear the instrument memory?');
+  ('Sicher Prüfgerätespeicher?', 'Really clear the instrument memory?'),
+  ('ZEMAK 37xx', 'ZEMAK 37xx'),
+  ('Quentavoir', 'Quentavoir');
 
 -- The read-in grid, its editing and the take-over.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
@@ -179,6 +181,8 @@ INSERT INTO Sprache (TextID, Deutsch, "English (United Kingdom)") VALUES
    'Der Speicher des Prüfgeräts 3710B enthält ungültige Messungen. Sie werden ohne Messwerte eingelesen.',
    'The memory of the 3710B instrument holds invalid measurements. They are read in without values.'),
   ('activateCodeSplitting3720', 'Codeaufteilung einschalten', 'Activate code splitting'),
+  ('CodeSplitting3720', 'Codeaufteilung 3720', 'Code splitting 3720'),
+  ('CodeSplitting', 'Codeaufteilung', 'Code splitting'),
   ('EinlesedatenHilfetext',
    'Jede Zeile ist eine eingelesene Messung. Schwarz: Kunde, Anlage, Prüfung, Verteiler oder Stromkreis '
    || 'ist vorhanden. Blaugrün und fett: wird bei der Übernahme neu angelegt. Rot "???": fehlt noch. '

@@ -5,6 +5,7 @@
 #include "links/KontalexAnsicht.h"
 #include "links/SorelinAnsicht.h"
 #include "links/ZemakAnsicht.h"
+#include "links/ZemakEinstellungAnsicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
 
@@ -22,6 +23,7 @@ const Ansichtstabelle& ansichten() {
          }},
         {"vemo::frmSorelin", &SorelinAnsicht::erstellen},
         {"vemo::Kontalex", &KontalexAnsicht::erstellen},
+        {"vemo::frmSettingZEMAK3710", &ZemakEinstellungAnsicht::erstellen},
     };
     return tabelle;
 }

@@ -1,5 +1,6 @@
 #include "Befehle.h"
 
+#include "Instrumentbefehl.h"
 #include "Sitzung.h"
 
 #include "grid/EinleseDatenController.h"
@@ -110,12 +111,30 @@ int takeOver(const Optionen& o) {
     });
 }
 
+int instrument(const Optionen& o) {
+    QString fehler;
+    const auto auftrag = instrumentauftragLesen(o, fehler);
+    if (!auftrag) {
+        ausgeben("vemo0100: " + fehler);
+        return 2;
+    }
+    if (auftrag->brauchtGerät() && o.port.isEmpty()) {
+        ausgeben("vemo0100: instrument needs --port N|PATH");
+        return 2;
+    }
+    return mitKomponente(o, [&](Sitzung&) {
+        QTextStream aus(stdout);
+        return instrumentBefehl(*auftrag, aus);
+    });
+}
+
 } // namespace
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
-        {"init-db", initDb},         {"read-file", readFile}, {"grid", grid},       {"assign", assign},
-        {"delete-rows", deleteRows}, {"take-over", takeOver}, {"receive", receive},
+        {"init-db", initDb},  {"read-file", readFile},     {"grid", grid},
+        {"assign", assign},   {"delete-rows", deleteRows}, {"take-over", takeOver},
+        {"receive", receive}, {"instrument", instrument},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

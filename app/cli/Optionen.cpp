@@ -15,7 +15,9 @@ const char* const Gebrauch =
     "  grid [--json]           refresh and print the read-in rows with the state of each cell\n"
     "  assign --rows A[-B] --column 1..5 --key K     the grid's choice for a selection of rows\n"
     "  delete-rows --rows A[-B]\n"
-    "  take-over               take assigned rows over into the inspection records\n";
+    "  take-over               take assigned rows over into the inspection records\n"
+    "  instrument [--set-id TEXT] [--sync-clock] [--clear-memory] [--code-splitting on|off]\n"
+    "             [--customer-digits 1..3] [--board-digits 1..3]   settings of a 37xx instrument\n";
 
 namespace {
 
@@ -58,6 +60,10 @@ const std::vector<Befehlsform> befehlsformen{
     {"assign", 0, {"rows", "column", "key"}, {}},
     {"delete-rows", 0, {"rows"}, {}},
     {"take-over", 0, {}, {}},
+    {"instrument",
+     0,
+     {"set-id", "code-splitting", "customer-digits", "board-digits"},
+     {"sync-clock", "clear-memory"}},
 };
 
 const Befehlsform* befehlsform(const QString& name) {

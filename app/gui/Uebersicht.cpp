@@ -47,11 +47,16 @@ const std::vector<Stufe>& stufen() {
 
 const QStringList Kopfspalten{"Datum", "Uhrzeit", "Funktion", "Messwert", "Einheit"};
 
+// The limit row has one insulation limit, which holds between whichever conductors were measured.
+QString grenzspalte(const QString& spalte) {
+    return spalte.startsWith("RISO_") ? QString("RISO") : spalte;
+}
+
 // The limit of a value column: the column of that name, for the tripping time its window.
 QString grenzwertZu(const Recordset& grenz, const QString& spalte) {
     if (spalte == "FIT")
         return (grenz.Text("FIT MIN") + " " + grenz.Text("FIT MAX")).trimmed();
-    return grenz.FieldIndex(spalte) >= 0 ? grenz.Text(spalte) : QString();
+    return grenz.FieldIndex(grenzspalte(spalte)) >= 0 ? grenz.Text(grenzspalte(spalte)) : QString();
 }
 
 } // namespace
@@ -167,7 +172,7 @@ void Uebersicht::messungenZeigen(QTreeWidgetItem* knoten) {
             überschriften << xText(k);
         const Recordset grenzSpalten = db().OpenRecordset("SELECT * FROM 0100_Grenzwert WHERE MessID = -1");
         const auto hatGrenzwert = [&](const QString& w) {
-            return w == "FIT" || grenzSpalten.FieldIndex(w) >= 0;
+            return w == "FIT" || grenzSpalten.FieldIndex(grenzspalte(w)) >= 0;
         };
         for (const QString& w : spalten) {
             überschriften << w;

@@ -7,6 +7,7 @@
 #include "host/Transfer.h"
 #include "host/Worttabellen.h"
 #include "language/SprachDatenbank.h"
+#include "links/ZemakEinstellung.h"
 #include "platform/Ui.h"
 #include "takeover/Uebernahme.h"
 
@@ -171,7 +172,7 @@ void vemo0100Modul15a::DatenImportieren() {
     mitFalle(nichtVerfügbar);
 }
 void vemo0100Modul15a::EinstellungZemak3710() {
-    mitFalle(nichtVerfügbar);
+    mitFalle(einstellungZemak3710);
 }
 
 void vemo0100Modul15a::vmxTextWidth(const QString& text, qint32& breite) {

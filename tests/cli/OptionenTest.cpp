@@ -66,8 +66,8 @@ TEST(OptionenTest, HilfeUndVersionBrauchenKeinenBefehl) {
 }
 
 // What the contract does not hold is refused, never ignored: an option of another command, a
-// global option behind the command, and what this version has not built (read-file --start, the
-// commands assign-device, instrument and import).
+// global option behind the command, an option without its value, and what this version has not
+// built (read-file --start, the commands assign-device and import).
 TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
     const QList<QStringList> aufrufe{
         {},
@@ -83,7 +83,7 @@ TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
         {"--db", "a.db", "--customer", "Sommer", "grid"},
         {"--db", "a.db", "read-file", "a.ser", "--start", "01.02.2024 10:11:12"},
         {"--db", "a.db", "assign-device", "--customer", "1"},
-        {"--db", "a.db", "instrument", "--sync-clock"},
+        {"--db", "a.db", "instrument", "--set-id"},
         {"--db", "a.db", "import", "alt.mdb"},
     };
     for (const QStringList& aufruf : aufrufe) {

@@ -17,6 +17,8 @@ struct Störungen {
     int kurzeAntworten = -1;   // how many memory replies lack them; -1: every one
     qsizetype stilleNach = -1; // characters of a memory reply after which the instrument falls silent
     int stilleMs = 0;          // how long it stays silent; 0: the rest of the reply never comes
+    int ausgestecktAb = -1;    // ms after its start at which its cable is pulled; -1: never
+    int ausgestecktMs = 0;     // how long the cable stays out; 0: for good
 };
 
 struct Verhalten {

@@ -23,6 +23,7 @@ ZemakGerät::ZemakGerät(const Zemakvariante& variante, ZemakSpeicher speicher, 
       m_uhrGestellt(werksuhr()) {
     m_schlange.setBaud(verhalten.takt.baud);
     m_seitGestellt.start();
+    m_seitStart.start();
 }
 
 quint32 ZemakGerät::werksuhr() {
@@ -33,7 +34,15 @@ quint32 ZemakGerät::uhr() const {
     return m_uhrGestellt + quint32(m_seitGestellt.elapsed() / 1000);
 }
 
+bool ZemakGerät::ausgesteckt() const {
+    const qint64 ab = m_störungen.ausgestecktAb;
+    const qint64 seitdem = m_seitStart.elapsed() - ab;
+    return ab >= 0 && seitdem >= 0 && (m_störungen.ausgestecktMs == 0 || seitdem < m_störungen.ausgestecktMs);
+}
+
 void ZemakGerät::empfangen(const QByteArray& bytes) {
+    if (ausgesteckt())
+        return;
     m_eingang += bytes;
     for (qsizetype cr = m_eingang.indexOf('\r'); cr >= 0; cr = m_eingang.indexOf('\r')) {
         const QByteArray text = m_eingang.left(cr).trimmed();

@@ -13,8 +13,9 @@ namespace vemo::sim {
 // CR. "ID" gives its identification, "XG" its clock as "XG," and the count of seconds, "XS,n"
 // sets the clock, "~QD 2." sends the memory ("5" when it holds nothing), "PS 0,id" makes the 8
 // characters id its serial number, "CD" empties the memory; the last three, and what it does not
-// understand ("?"), are answered with a status line. The key does nothing: the family sends only when asked.
-// (No Q_OBJECT: it adds no signals, and the meta-object compiler reads no umlauts in class names.)
+// understand ("?"), are answered with a status line. Its cable can be pulled for a while. The key does
+// nothing: the family sends only when asked. (No Q_OBJECT: it adds no signals, and the meta-object compiler
+// reads no umlauts in class names.)
 class ZemakGerät : public Instrument {
 public:
     ZemakGerät(const Zemakvariante& variante, ZemakSpeicher speicher, Verhalten verhalten = {{9600, 0}, {}},
@@ -37,6 +38,8 @@ private:
     void kennungSetzen(const QByteArray& id);
     void speicherSenden();
     void antworten(const QByteArray& zeile);
+    // The cable is out: the instrument hears nothing, so it answers nothing.
+    bool ausgesteckt() const;
 
     const Zemakvariante& m_variante;
     ZemakSpeicher m_speicher;
@@ -45,6 +48,7 @@ private:
     QByteArray m_eingang;
     quint32 m_uhrGestellt;
     QElapsedTimer m_seitGestellt;
+    QElapsedTimer m_seitStart;
     int m_abfragen = 0;
     qint64 m_gesendet = 0;
 };

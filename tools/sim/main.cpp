@@ -83,8 +83,10 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
                                         "N");
     const QCommandLineOption stille("silence", "The silence lasts MS; 0 (default): the reply never ends.",
                                     "MS");
+    const QCommandLineOption ausstecken("unplug-after", "Pull the cable MS after the start.", "MS");
+    const QCommandLineOption eingesteckt("unplug-for", "Put it back MS later; 0 (default): never.", "MS");
     p.addOptions({typ, speicher, datensätze, modell, instrument, treiber, link, drücken, baud, pause, kurz,
-                  kurzMal, stilleNach, stille});
+                  kurzMal, stilleNach, stille, ausstecken, eingesteckt});
     p.process(argumente);
 
     bool ok = false;
@@ -140,6 +142,9 @@ QString optionenLesen(const QStringList& argumente, Optionen& o) {
     if (!zahlLesen(p, stilleNach, 0, stilleNachZeichen) || !zahlLesen(p, stille, 0, störungen.stilleMs))
         return "--silent-after and --silence need counts";
     störungen.stilleNach = stilleNachZeichen;
+    if (!zahlLesen(p, ausstecken, 0, störungen.ausgestecktAb) ||
+        !zahlLesen(p, eingesteckt, 0, störungen.ausgestecktMs))
+        return "--unplug-after and --unplug-for need milliseconds";
     if (p.isSet(drücken)) {
         o.drückenNach = p.value(drücken).toDouble(&ok);
         if (!ok || o.drückenNach < 0)
