@@ -5,6 +5,8 @@
 #include "links/KontalexAnsicht.h"
 #include "links/SorelinAnsicht.h"
 #include "links/ZemakAnsicht.h"
+#include "logger/DatenLoggerAnsicht.h"
+#include "logger/ZuordnenAnsicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
 
@@ -22,6 +24,8 @@ const Ansichtstabelle& ansichten() {
          }},
         {"vemo::frmSorelin", &SorelinAnsicht::erstellen},
         {"vemo::Kontalex", &KontalexAnsicht::erstellen},
+        {"vemo::Zuordnen", &ZuordnenAnsicht::erstellen},
+        {"vemo::DatenLogger", &DatenLoggerAnsicht::erstellen},
     };
     return tabelle;
 }

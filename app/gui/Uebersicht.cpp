@@ -1,5 +1,7 @@
 #include "Uebersicht.h"
 
+#include "Reihenanzeige.h"
+
 #include "core/ModulState.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
@@ -66,6 +68,8 @@ Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
     rl->setContentsMargins(0, 0, 0, 0);
     rl->addWidget(m_kopf);
     rl->addWidget(m_messungen);
+    m_reihe = new Reihenanzeige;
+    rl->addWidget(m_reihe, 1);
     auto* teiler = new QSplitter;
     teiler->addWidget(m_baum);
     teiler->addWidget(rechts);
@@ -76,6 +80,10 @@ Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
     connect(m_baum, &QTreeWidget::itemExpanded, this, &Uebersicht::zweigFüllen);
     connect(m_baum, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* k, QTreeWidgetItem*) { messungenZeigen(k); });
+    connect(m_baum, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* k, QTreeWidgetItem*) {
+        const bool prüfung = k && k->data(0, Ebene).toInt() == 2;
+        m_reihe->prüfungZeigen(prüfung ? k->data(0, Schlüssel) : QVariant());
+    });
     beschriften();
 }
 
