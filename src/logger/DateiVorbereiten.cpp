@@ -11,6 +11,7 @@
 #include "logger/Zuordnen.h"
 #include "platform/Textdatei.h"
 #include "platform/Ui.h"
+#include "platform/Zahlformat.h"
 
 #include <map>
 
@@ -22,26 +23,37 @@ constexpr int Zeilenbreite = 24;
 
 enum class Art { Keine, Analyse, Logger, Einfach };
 
+struct Befund {
+    Art art = Art::Keine;
+    QString zeile; // the line that told
+};
+
+// Where the number of a board line begins: behind "S: " in the report form, further on in the
+// rewritten coded dump, whose board line names the place.
+int nummernspalte() {
+    return modul().Selektor() == Varitron ? 14 : 4;
+}
+
 // The board word of the key texts: entry 4 cut to 24 characters and trimmed, then ": ".
 QString verteilerwort() {
     return modul().mulTexte.value(4).left(Zeilenbreite).trimmed() + ": ";
 }
 
 // What the dump holds, by the first line that tells.
-Art artErkennen() {
+Befund artErkennen() {
     Textdatei datei(arbeitsdatei(datei::RuvoSav));
     const QString analyse = modul().mulTexte.value(7).left(Zeilenbreite);
     const QString wort = verteilerwort();
     while (!datei.eof()) {
         const QString zeile = datei.zeileLesen();
         if (zeile == analyse)
-            return Art::Analyse;
+            return {Art::Analyse, zeile};
         if (istLoggerMarke(zeile))
-            return Art::Logger;
+            return {Art::Logger, zeile};
         if (zeile.startsWith(wort))
-            return Art::Einfach;
+            return {Art::Einfach, zeile};
     }
-    return Art::Keine;
+    return {};
 }
 
 void vorbereiten(bool neu) {
@@ -55,12 +67,15 @@ void vorbereiten(bool neu) {
     dateiKopieren(arbeitsdatei(datei::Ruvo), arbeitsdatei(datei::RuvoSav));
 }
 
-void einrichten(Zuordnen& pool, Art art) {
+void einrichten(Zuordnen& pool, const Befund& befund) {
+    const Art art = befund.art;
     static const std::map<Art, QString> modi{
         {Art::Analyse, "Fi-Analyse"}, {Art::Logger, "DATEN LOGGER"}, {Art::Einfach, QString()}};
     modul().datenpoolModus = modi.at(art);
     pool.zuordnungZeigen(art == Art::Einfach);
     if (art == Art::Einfach) {
+        const double nummer = zahlformat::val(befund.zeile.mid(nummernspalte() - 1));
+        pool.text9Verlassen(QString::number(qint64(nummer)));
         if (modul().Selektor() == selektor::Kontalex)
             pool.listeFüllen();
         return;
@@ -89,21 +104,21 @@ void zeigen(Zuordnen& pool) {
 } // namespace
 
 void DateiVorbereiten(bool neu) {
-    Art art = Art::Keine;
+    Befund befund;
     const bool gelesen = mitFalle([&] {
         const Sanduhr sanduhr;
         vorbereiten(neu);
-        art = artErkennen();
+        befund = artErkennen();
     });
     if (!gelesen)
         return;
-    if (art == Art::Keine) {
+    if (befund.art == Art::Keine) {
         ui().MsgBox(xText("Messdaten Kopf fehlt"), modul().anwendungstitel);
         modul().Abbruchmerker = 1;
         return;
     }
     Zuordnen pool;
-    einrichten(pool, art);
+    einrichten(pool, befund);
     zeigen(pool);
 }
 

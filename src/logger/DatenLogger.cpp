@@ -70,8 +70,10 @@ void DatenLogger::command2() {
 
 void DatenLogger::reiheLesen(const QDateTime& start) {
     Textdatei datei(arbeitsdatei(datei::RuvoSav));
-    while (!datei.zeileLesen().contains("LOGGER")) {
-    }
+    // The head lines follow the line of the logger's mark; a dump without one ends in error 62.
+    bool marke = false;
+    while (!marke)
+        marke = datei.zeileLesen().contains("LOGGER");
     const Loggerreihe r = loggerreiheLesen(datei);
     Reihenkopf& kopf = m_datenpool.kopf();
     kopf = {start, r.anzahl, r.intervall, r.maximum, r.minimum};

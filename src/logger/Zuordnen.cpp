@@ -161,6 +161,11 @@ void Zuordnen::analyseLesen(Textdatei& datei) {
     }
 }
 
+void Zuordnen::reiheFertig() {
+    m_reiheBereit = true;
+    emit aktualisiert();
+}
+
 void Zuordnen::startzeitFragen() {
     DatenLogger dialog(*this);
     ui().zeigeModal(dialog);

@@ -69,7 +69,7 @@ public:
     QString spannungsEndung() const { return m_leiterPE ? " (L-PE):" : " (L-N(L)):"; }
     // The series has its times: the start the user gave, an interval a point.
     bool reiheBereit() const { return m_reiheBereit; }
-    void reiheFertig() { m_reiheBereit = true; }
+    void reiheFertig();
 
     // Opens the dialog that asks for the start of the series.
     void startzeitFragen();

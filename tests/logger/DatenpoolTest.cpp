@@ -92,7 +92,7 @@ TEST_F(DatenpoolTest, EineReiheWirdEinePrüfungMitIhrenPunkten) {
     EXPECT_EQ(text(m_komponente->ListePrüfungID()), prüfung);
     EXPECT_EQ(anzahl("datlog37"), 1);
     EXPECT_EQ(wert("SELECT PrüfungID FROM datlog37"), prüfung);
-    EXPECT_EQ(wert("SELECT Datum FROM datlog37"), "2026-03-14 07:30:00");
+    EXPECT_EQ(db().OpenRecordset("datlog37").Field("Datum").toDateTime(), Beginn);
     EXPECT_EQ(
         wert("SELECT xText || '/' || yText || '/' || Anzahlmessungen || '/' || Intervall || '/' || Max || "
              "'/' || Min FROM datlog37"),
@@ -129,14 +129,25 @@ TEST_F(DatenpoolTest, OhneAuftraggeberOderAnlageWirdNichtsGeschrieben) {
     EXPECT_EQ(anzahl("0100U_CertNic"), 0);
 }
 
+// The logger of a command-protocol instrument comes through the rendering of its record file.
+TEST_F(DatenpoolTest, EineKontalexReiheGehtDenselbenWeg) {
+    auswählen(1, 1);
+    einlesen("pravitonix-datenlogger.sep");
+    EXPECT_TRUE(m_ui.texte().isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(anzahl("datlog37"), 1);
+    EXPECT_EQ(wert("SELECT Anzahlmessungen FROM datlog37"), "6");
+    EXPECT_FALSE(wert("SELECT Intervall FROM datlog37").isEmpty());
+    EXPECT_EQ(anzahl("messreihe37"), 6);
+}
+
 TEST_F(DatenpoolTest, EineLangeReiheZeigtUndSpeichert1995Punkte) {
     auswählen(3, 4);
     einlesen("datenlogger-2000.ser");
     EXPECT_EQ(m_chartpunkte, Diagramm::HöchstePunkte);
     EXPECT_EQ(anzahl("messreihe37"), Diagramm::HöchstePunkte);
     EXPECT_EQ(wert("SELECT Anzahlmessungen FROM datlog37"), "2000");
-    EXPECT_EQ(wert("SELECT Max(Datum) FROM messreihe37"),
-              Beginn.addSecs(qint64(Diagramm::HöchstePunkte) * 900).toString("yyyy-MM-dd HH:mm:ss"));
+    const Recordset letzter = db().OpenRecordset("SELECT Datum FROM messreihe37 ORDER BY Datum DESC");
+    EXPECT_EQ(letzter.Field("Datum").toDateTime(), Beginn.addSecs(qint64(Diagramm::HöchstePunkte) * 900));
 }
 
 TEST_F(DatenpoolTest, InAnderenArtenPrüftDieAuswahlNichtsUndSchreibtNichts) {
@@ -190,6 +201,7 @@ TEST_F(DatenpoolTest, DreiVerteilerSindDreiEinträge) {
     m_speichern = false;
     m_listeWählen = [](Zuordnen& p) {
         EXPECT_EQ(p.gewählt(), 0);
+        EXPECT_EQ(p.text9(), "001") << "the number of the first board line";
         p.eintragWählen(2);
     };
     DateiVorbereiten(false);
