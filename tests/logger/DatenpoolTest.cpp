@@ -177,6 +177,29 @@ TEST_F(DatenpoolTest, EineAnalyseFülltZweiReihen) {
     EXPECT_EQ(anzahl("datlog37"), 0);
 }
 
+// The coded dump of the 0100-Varitron is rewritten before the pre-pass reads it, when asked for; the
+// key texts stand behind the rewriting again.
+TEST_F(DatenpoolTest, DerCodierteDumpWirdVorDemDatenpoolUmgeschrieben) {
+    const QByteArray codiert = lesen(test::quelle("samples/multitester-codiert.ser"));
+    schreiben(pfad("Ruvo.ser"), codiert);
+    modul().Selektor() = "Multitester = 0100-Varitron";
+    DateiVorbereiten(false);
+    EXPECT_EQ(m_ui.texte(), QStringList{"Messdaten Kopf fehlt"}) << "without the flag nothing is rewritten";
+    EXPECT_EQ(lesen(pfad("Ruvo.ser")), codiert);
+
+    m_ui.meldungen.clear();
+    m_speichern = false;
+    m_listeWählen = [](Zuordnen& p) {
+        EXPECT_EQ(p.text9(), "001");
+        EXPECT_EQ(p.überschrift(), "Wie werden die Messungen...");
+    };
+    DateiVorbereiten(true);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+    EXPECT_TRUE(m_zuordnung);
+    EXPECT_TRUE(lesen(pfad("Ruvo.SAV")).startsWith("RUVO GmbH 0100 Multi    \r\n"));
+    EXPECT_EQ(modul().mulTexte.value(7).left(24), "S: 255    FI-Analyse    ");
+}
+
 TEST_F(DatenpoolTest, EinDumpOhneArtEndetInDerMeldung) {
     schreiben(pfad("Ruvo.ser"), "RUVO GmbH 0100 Multi\r\n------------------------\r\n4470D    No. 1\r\n\r\n");
     DateiVorbereiten(false);
