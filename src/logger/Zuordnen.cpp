@@ -15,7 +15,6 @@ namespace vemo {
 namespace {
 
 constexpr int Listenüberschrift = 402; // entry of the .MNU table
-constexpr int FelderDerListe = 9;      // the number and the eight values of the block head
 const QString Analysezeile = "S: 255    FI-Analyse    ";
 
 bool istVaritron() {
@@ -31,15 +30,30 @@ QString listeneintrag(const QStringList& felder) {
     return name.leftJustified(Zuordnen::NamenBreite) + felder.value(0).right(Zuordnen::NummerLänge);
 }
 
+// A line of Verteil.txt: the number and the values of the block head, separated by commas, texts in
+// double quotes, which may hold commas themselves.
+QStringList felderDerZeile(const QString& zeile) {
+    QStringList felder(1);
+    bool inAnführung = false;
+    for (const QChar c : zeile) {
+        if (c == '"')
+            inAnführung = !inAnführung;
+        else if (c == ',' && !inAnführung)
+            felder << QString();
+        else
+            felder.back() += c;
+    }
+    for (QString& f : felder)
+        f = f.trimmed();
+    return felder;
+}
+
 QStringList verteilerLesen() {
     QStringList einträge;
     Textdatei datei(arbeitsdatei(datei::Verteil));
-    while (!datei.eof()) {
-        QStringList felder;
-        for (int i = 0; i < FelderDerListe && !datei.eof(); ++i)
-            felder << datei.feldLesen();
-        einträge << listeneintrag(felder);
-    }
+    while (!datei.eof())
+        if (const QString zeile = datei.zeileLesen(); !zeile.trimmed().isEmpty())
+            einträge << listeneintrag(felderDerZeile(zeile));
     return einträge;
 }
 

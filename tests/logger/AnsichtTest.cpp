@@ -8,6 +8,7 @@
 
 #include <QChart>
 #include <QChartView>
+#include <QCheckBox>
 #include <QDialog>
 #include <QFile>
 #include <QLabel>
@@ -66,6 +67,42 @@ TEST_F(LoggerAnsichtTest, DerDatenpoolZeigtDieReiheÜberDerZeit) {
         QTest::qWait(50);
         fenster->grab().save(QString::fromLocal8Bit(ziel));
     }
+}
+
+// A plain dump shows its boards and the options; a click on a board puts its rendering in place, and
+// the one-main-board option hides the board number.
+TEST_F(LoggerAnsichtTest, EinEinfacherDumpZeigtVerteilerUndOptionen) {
+    modul().datenpoolModus.clear();
+    QFile liste(pfad("Verteil.txt"));
+    ASSERT_TRUE(liste.open(QIODevice::WriteOnly));
+    liste.write("\"00000021\",1,1,1,\"Keller\",1,1,1\r\n\"00000022\",1,2,1,\"Dach\",1,1,1\r\n");
+    liste.close();
+    QFile bericht(pfad("00000022.SEP"));
+    ASSERT_TRUE(bericht.open(QIODevice::WriteOnly));
+    bericht.write("OMNIVAR\r\nS: 002  P: 001\r\n");
+    bericht.close();
+    Zuordnen pool;
+    pool.zuordnungZeigen(true);
+    pool.listeFüllen();
+    const auto fenster = ansicht(pool);
+    fenster->show();
+    auto* list1 = fenster->findChild<QListWidget*>("List1");
+    ASSERT_EQ(list1->count(), 2);
+    EXPECT_EQ(list1->currentRow(), 0);
+    EXPECT_FALSE(fenster->findChild<QChartView*>()->isVisible());
+    auto* text9 = fenster->findChild<QLineEdit*>("Text9");
+    EXPECT_TRUE(text9->isVisible());
+
+    list1->setCurrentRow(1);
+    EXPECT_EQ(pool.gewählt(), 1);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    QFile ruvo(pfad("Ruvo.ser"));
+    ASSERT_TRUE(ruvo.open(QIODevice::ReadOnly));
+    EXPECT_EQ(ruvo.readAll(), "OMNIVAR\r\nS: 002  P: 001\r\n");
+
+    fenster->findChild<QCheckBox*>("Option3D1")->setChecked(true);
+    EXPECT_EQ(pool.alleVerteiler(), "JA");
+    EXPECT_FALSE(text9->isVisible());
 }
 
 TEST_F(LoggerAnsichtTest, DieFelderNehmenNurZiffern) {
