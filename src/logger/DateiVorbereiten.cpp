@@ -63,6 +63,8 @@ void vorbereiten(bool neu) {
     }
     SchlüsselTexteSetzen();
     modul().datenpoolModus = "Voreinstellung";
+    modul().loggerPrüfungID = 0;
+    modul().loggerIDDATLOG = 0;
     modul().arbeitsquelle = arbeitsdatei(datei::Ruvo);
     dateiKopieren(arbeitsdatei(datei::Ruvo), arbeitsdatei(datei::RuvoSav));
 }

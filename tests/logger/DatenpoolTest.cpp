@@ -54,6 +54,7 @@ protected:
             logger->command1();
         } else if (auto* pool = qobject_cast<Zuordnen*>(&d)) {
             m_chartpunkte = pool->diagramm().anzahl();
+            m_endung = pool->spannungsEndung();
             m_zuordnung = pool->zeigtZuordnung();
             m_liste = pool->liste();
             if (m_listeWählen)
@@ -75,6 +76,7 @@ protected:
     std::unique_ptr<vemo0100Modul15a> m_komponente;
     bool m_speichern = true;
     int m_chartpunkte = -1;
+    QString m_endung;
     bool m_zuordnung = false;
     QStringList m_liste;
     std::function<void(Zuordnen&)> m_listeWählen;
@@ -86,6 +88,7 @@ TEST_F(DatenpoolTest, EineReiheWirdEinePrüfungMitIhrenPunkten) {
     EXPECT_EQ(m_ui.dialoge, (QStringList{"vemo::DatenLogger", "vemo::Zuordnen"}));
     EXPECT_TRUE(m_ui.texte().isEmpty()) << m_ui.texte().join(" | ").toStdString();
     EXPECT_EQ(modul().datenpoolModus, "DATEN LOGGER");
+    EXPECT_EQ(m_endung, " (L-N(L)):");
 
     ASSERT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = 2"), "1");
     const QString prüfung = wert("SELECT PrüfungID FROM 0100_Prüfung WHERE AnlagenID = 2");
@@ -144,6 +147,7 @@ TEST_F(DatenpoolTest, EineLangeReiheZeigtUndSpeichert1995Punkte) {
     auswählen(3, 4);
     einlesen("datenlogger-2000.ser");
     EXPECT_EQ(m_chartpunkte, Diagramm::HöchstePunkte);
+    EXPECT_EQ(m_endung, " (L-PE):") << "the voltage was taken against protective earth";
     EXPECT_EQ(anzahl("messreihe37"), Diagramm::HöchstePunkte);
     EXPECT_EQ(wert("SELECT Anzahlmessungen FROM datlog37"), "2000");
     const Recordset letzter = db().OpenRecordset("SELECT Datum FROM messreihe37 ORDER BY Datum DESC");
