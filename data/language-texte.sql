@@ -227,6 +227,23 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Telefonnummer', 'Telephone No.'),
   ('Faxnummer', 'Fax No.'),
   ('Logo', 'Logo');
+-- The data pool and the logger series.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Auswahl eines Objekts / Anlage', 'Choice of an object / installation'),
+  ('Übernehmen', 'Accept'),
+  ('Beginn der Aufzeichnung', 'Start of the recording'),
+  ('Tag', 'Day'),
+  ('Monat', 'Month'),
+  ('Jahr', 'Year'),
+  ('Stunde', 'Hour'),
+  ('Minute', 'Minute'),
+  ('Sekunde', 'Second'),
+  ('Anzahl Messwerte', 'Number of values'),
+  ('Intervall (s)', 'Interval (s)'),
+  ('Spannung max', 'Voltage max'),
+  ('Spannung min', 'Voltage min'),
+  ('Datum oder Uhrzeit des Beginns ist ungültig. Bitte Tag, Monat, Jahr, Stunde, Minute und Sekunde prüfen.',
+   'The start date or time is not valid. Please check day, month, year, hour, minute and second.');
 
 UPDATE Sprache SET Deutsch = TextID WHERE Deutsch IS NULL;
 UPDATE Sprache SET "Deutsch (&Deutschland)" = Deutsch, "Deutsch (&Österreich)" = Deutsch;

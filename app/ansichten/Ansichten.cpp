@@ -6,6 +6,8 @@
 #include "links/SorelinAnsicht.h"
 #include "links/ZemakAnsicht.h"
 #include "links/ZemakEinstellungAnsicht.h"
+#include "logger/DatenLoggerAnsicht.h"
+#include "logger/ZuordnenAnsicht.h"
 #include "takeover/TeilFunktionAnsicht.h"
 #include "takeover/TeilFunktionDialog.h"
 
@@ -24,6 +26,8 @@ const Ansichtstabelle& ansichten() {
         {"vemo::frmSorelin", &SorelinAnsicht::erstellen},
         {"vemo::Kontalex", &KontalexAnsicht::erstellen},
         {"vemo::frmSettingZEMAK3710", &ZemakEinstellungAnsicht::erstellen},
+        {"vemo::Zuordnen", &ZuordnenAnsicht::erstellen},
+        {"vemo::DatenLogger", &DatenLoggerAnsicht::erstellen},
     };
     return tabelle;
 }

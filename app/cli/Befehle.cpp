@@ -3,14 +3,17 @@
 #include "Instrumentbefehl.h"
 #include "Sitzung.h"
 
+#include "core/ModulState.h"
 #include "grid/EinleseDatenController.h"
 #include "grid/GridBefehle.h"
 #include "language/SprachDatenbank.h"
+#include "logger/Reihenausgabe.h"
 #include "platform/Fehler.h"
 #include "store/Schema.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QTextStream>
 #include <cstdio>
 #include <functional>
@@ -53,15 +56,42 @@ int mitKomponente(const Optionen& o, const std::function<int(Sitzung&)>& befehl)
     return status != 0 ? status : s.ergebnis();
 }
 
+// What a logger dump read headless leaves: the key of the new inspection, or the stored series.
+void loggerAusgeben(bool json) {
+    const vemo::ModulState& m = vemo::modul();
+    if (m.loggerIDDATLOG == 0) {
+        if (m.DatenloggerMode && m.datenpoolModus == "DATEN LOGGER")
+            ausgeben("vemo0100: the dump is a logger series; --start \"DD.MM.YYYY HH:MM:SS\" stores it");
+        return;
+    }
+    QTextStream aus(stdout);
+    if (json)
+        aus << QJsonDocument(vemo::reiheAlsJson(m.loggerIDDATLOG)).toJson();
+    else
+        aus << m.loggerPrüfungID << Qt::endl;
+}
+
 int readFile(const Optionen& o) {
     const QString datei = o.argumente.value(0);
     if (datei.isEmpty()) {
         ausgeben("vemo0100: read-file needs the path of a dump");
         return 2;
     }
+    const QDateTime start =
+        QDateTime::fromString(o.option("--start").value_or(QString()), "dd.MM.yyyy HH:mm:ss");
+    if (o.option("--start") && !start.isValid()) {
+        ausgeben("vemo0100: --start needs \"DD.MM.YYYY HH:MM:SS\", not " + *o.option("--start"));
+        return 2;
+    }
     return mitKomponente(o, [&](Sitzung& s) {
+        // No window answers the data pool here: the start given stores the series.
+        vemo::modul().datenpoolOhneDialog = true;
+        vemo::modul().loggerStart = start;
         s.komponente().EinlesenAusDateiName(datei);
-        return 0;
+        loggerAusgeben(o.schalter("--json"));
+        const bool nichtGespeichert =
+            start.isValid() && vemo::modul().DatenloggerMode && vemo::modul().loggerIDDATLOG == 0;
+        return nichtGespeichert ? 1 : 0;
     });
 }
 

@@ -10,7 +10,8 @@ const char* const Gebrauch =
     "       vemo0100 --db DB [--language NAME] [--backup DIR] [--settings FILE] [--locale NAME]\n"
     "                [--replica ID] [--port N|PATH] [--type CODE]\n"
     "                [--customer ID] [--plant ID] [--inspection ID] [--yes] COMMAND\n"
-    "  read-file FILE          read a saved dump\n"
+    "  read-file FILE [--start \"DD.MM.YYYY HH:MM:SS\"] [--json]\n"
+    "                          read a saved dump; --start stores a logger series, --json prints it\n"
     "  receive                 transfer from the instrument on --port of type --type (Ctrl-C aborts)\n"
     "  grid [--json]           refresh and print the read-in rows with the state of each cell\n"
     "  assign --rows A[-B] --column 1..5 --key K     the grid's choice for a selection of rows\n"
@@ -54,7 +55,7 @@ struct Befehlsform {
 
 const std::vector<Befehlsform> befehlsformen{
     {"init-db", 1, {}, {"demo"}},
-    {"read-file", 1, {}, {}},
+    {"read-file", 1, {"start"}, {"json"}},
     {"receive", 0, {}, {}},
     {"grid", 0, {}, {"json"}},
     {"assign", 0, {"rows", "column", "key"}, {}},

@@ -1,6 +1,7 @@
 #include "Uebersicht.h"
 
 #include "Zertifikatswerte.h"
+#include "Reihenanzeige.h"
 
 #include "core/ModulState.h"
 #include "store/Recordset.h"
@@ -76,6 +77,8 @@ Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
     auto* zertifikat = new Zertifikatswerte;
     rl->addWidget(zertifikat, 1);
     connect(zertifikat, &Zertifikatswerte::prüfungAngelegt, this, &Uebersicht::aktualisieren);
+    m_reihe = new Reihenanzeige;
+    rl->addWidget(m_reihe, 1);
     auto* teiler = new QSplitter;
     teiler->addWidget(m_baum);
     teiler->addWidget(rechts);
@@ -88,6 +91,10 @@ Uebersicht::Uebersicht(QWidget* eltern) : QWidget(eltern) {
             [this](QTreeWidgetItem* k, QTreeWidgetItem*) { messungenZeigen(k); });
     connect(m_baum, &QTreeWidget::currentItemChanged, zertifikat, [zertifikat](QTreeWidgetItem* k) {
         zertifikat->zeigen(k ? k->data(0, Ebene).toInt() : -1, k ? k->data(0, Schlüssel) : QVariant());
+    });
+    connect(m_baum, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* k, QTreeWidgetItem*) {
+        const bool prüfung = k && k->data(0, Ebene).toInt() == 2;
+        m_reihe->prüfungZeigen(prüfung ? k->data(0, Schlüssel) : QVariant());
     });
     beschriften();
 }

@@ -6,6 +6,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class QTableWidget;
 class QLabel;
+class Reihenanzeige;
 
 // A read-only view of what the take-over produced: customers, plants, inspections, boards and
 // circuits as a tree, and the measurement rows of the chosen circuit with their limits beside them.
@@ -23,4 +24,5 @@ private:
     QTreeWidget* m_baum;
     QTableWidget* m_messungen;
     QLabel* m_kopf;
+    Reihenanzeige* m_reihe;
 };

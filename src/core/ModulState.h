@@ -7,6 +7,7 @@
 #include "store/Datenbank.h"
 #include "store/Schluessel.h"
 
+#include <QDateTime>
 #include <QStringList>
 #include <QVariant>
 #include <functional>
@@ -47,6 +48,14 @@ struct ModulState {
     QString backupNummer;
     bool DatenloggerMode = false;
     QString datenpoolModus;
+    // What the data pool's logger branch keeps between its two commands: the new inspection and
+    // the head of its series.
+    qint32 loggerPrüfungID = 0;
+    qint32 loggerIDDATLOG = 0;
+    // The command line answers the data pool itself: with a start moment the logger series is
+    // stored without asking, without one the dialog closes and nothing is stored.
+    bool datenpoolOhneDialog = false;
+    QDateTime loggerStart;
 
     QStringList mnuTexte; // \Ruvo.MNU, up to 500 entries from index 1
     QStringList mulTexte; // \Ruvo.MUL, up to 30 entries from index 1

@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace vemo {
 namespace {
@@ -75,24 +74,6 @@ QString NächsteSepNummer() {
         ergebnis = s.nummer;
     });
     return ergebnis;
-}
-
-void dateiKopieren(const QString& von, const QString& nach) {
-    if (!QFileInfo::exists(von))
-        throw fehler::mit(fehler::DateiNichtGefunden, von);
-    if (QFileInfo(von).canonicalFilePath() == QFileInfo(nach).canonicalFilePath())
-        return; // the file already is the destination
-    QFile quelle(von);
-    if (!quelle.open(QIODevice::ReadOnly))
-        throw fehler::mit(fehler::PfadZugriff, von);
-    // The copy replaces the destination at once: a second workplace reading the same working file
-    // beside a shared database meanwhile sees the whole old file or the whole new one.
-    QSaveFile ziel(nach);
-    if (!ziel.open(QIODevice::WriteOnly))
-        throw fehler::mit(fehler::PfadZugriff, nach);
-    const QByteArray inhalt = quelle.readAll();
-    if (ziel.write(inhalt) != inhalt.size() || !ziel.commit())
-        throw fehler::mit(fehler::PfadZugriff, nach);
 }
 
 void nummerierteKopieAnlegen(const QString& selektor) {

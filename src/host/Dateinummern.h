@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Arbeitsdateien.h" // dateiKopieren
+
 #include <QString>
 
 namespace vemo {
@@ -15,8 +17,5 @@ QString NächsteSepNummer();
 // Copies the raw file of the selector, byte for byte, to the next numbered file; raises the store's
 // error when the copy fails.
 void nummerierteKopieAnlegen(const QString& selektor);
-
-// Copies a file byte for byte over the destination; raises 53 or 75 when that is not possible.
-void dateiKopieren(const QString& von, const QString& nach);
 
 } // namespace vemo

@@ -7,6 +7,7 @@
 #include "links/DumpEmpfang.h"
 #include "links/SorelinUebertragung.h"
 #include "links/ZemakDialog.h"
+#include "logger/DateiVorbereiten.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "platform/Ui.h"
 #include "store/Variant.h"
@@ -59,10 +60,7 @@ Ausgang TransferStarten() {
 }
 
 void datenpoolVorbereiten() {
-    ui().MsgBox(
-        xText("Die Aufzeichnung eines Datenloggers kann in dieser Version noch nicht übernommen werden. "
-              "Die Datei bleibt erhalten."),
-        modul().anwendungstitel);
+    DateiVorbereiten(false);
 }
 
 void DatenEmpfangen() {

@@ -81,7 +81,6 @@ TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
         {"--db", "a.db", "read-file", "a.ser", "b.ser"},
         {"--db", "a.db", "grid", "--db", "b.db"},
         {"--db", "a.db", "--customer", "Sommer", "grid"},
-        {"--db", "a.db", "read-file", "a.ser", "--start", "01.02.2024 10:11:12"},
         {"--db", "a.db", "assign-device", "--customer", "1"},
         {"--db", "a.db", "instrument", "--set-id"},
         {"--db", "a.db", "import", "alt.mdb"},

@@ -118,8 +118,8 @@ TEST_F(SprachDatenbankTest, JederTextDerQuellenIstÜbersetzt) {
     ASSERT_GT(texte.size(), 50);
     EXPECT_TRUE(texte.contains("Datenübertragung läuft...")) << "the scan misses the calls";
     EXPECT_TRUE(
-        texte.contains("Die Aufzeichnung eines Datenloggers kann in dieser Version noch nicht übernommen "
-                       "werden. Die Datei bleibt erhalten."))
+        texte.contains("Datum oder Uhrzeit des Beginns ist ungültig. Bitte Tag, Monat, Jahr, Stunde, Minute "
+                       "und Sekunde prüfen."))
         << "adjacent literals are one text";
 
     QStringList fehlend;

@@ -1,0 +1,130 @@
+#include "support/Testumgebung.h"
+
+#include "ansichten/Ansichten.h"
+#include "core/Arbeitsdateien.h"
+#include "core/ModulState.h"
+#include "logger/DatenLogger.h"
+#include "logger/Zuordnen.h"
+
+#include <QChart>
+#include <QChartView>
+#include <QCheckBox>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLineSeries>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+using namespace vemo;
+
+namespace {
+
+// The windows of the data pool and the logger dialog, made as the window program makes them.
+class LoggerAnsichtTest : public test::Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        modul().Datenbankverzeichnis = m_dir.path();
+        ASSERT_TRUE(QFile::copy(test::quelle("samples/corvex-datenlogger.ser"), pfad("Ruvo.SAV")));
+        modul().datenpoolModus = "DATEN LOGGER";
+    }
+    static std::unique_ptr<QDialog> ansicht(DialogController& c) {
+        return std::unique_ptr<QDialog>(ansichten().at(c.metaObject()->className())(c, nullptr));
+    }
+};
+
+TEST_F(LoggerAnsichtTest, DerDatenpoolZeigtDieReiheÜberDerZeit) {
+    Zuordnen pool;
+    pool.zuordnungZeigen(false);
+    pool.diagrammFüllen();
+    const auto fenster = ansicht(pool);
+    fenster->show();
+    auto* chart = fenster->findChild<QChartView*>()->chart();
+    ASSERT_EQ(chart->series().size(), 1);
+    EXPECT_EQ(static_cast<QLineSeries*>(chart->series()[0])->count(), 6);
+    EXPECT_FALSE(fenster->findChild<QListWidget*>("List1")->isVisible());
+    EXPECT_EQ(fenster->findChild<QLabel*>("Label4")->text(), "") << "no start given yet";
+
+    DatenLogger logger(pool);
+    logger.startSetzen(QDateTime(QDate(2026, 3, 14), QTime(7, 30)));
+    logger.command1();
+    EXPECT_EQ(fenster->findChild<QLabel*>("Label4")->text(), "14.03.2026");
+    EXPECT_EQ(fenster->findChild<QLabel*>("Label5")->text(), "07:30:00");
+    EXPECT_EQ(fenster->findChild<QLabel*>("Label7")->text(), "60");
+    EXPECT_EQ(fenster->findChild<QLabel*>("Label8")->text(), "233,0");
+    chart = fenster->findChild<QChartView*>()->chart();
+    const auto* linie = static_cast<QLineSeries*>(chart->series()[0]);
+    ASSERT_EQ(linie->count(), 6);
+    EXPECT_EQ(QDateTime::fromMSecsSinceEpoch(qint64(linie->at(5).x())).toString("HH:mm"), "07:36");
+    EXPECT_DOUBLE_EQ(linie->at(5).y(), 232.1);
+    EXPECT_TRUE(fenster->findChild<QPushButton*>("Startzeit")->isVisible());
+
+    if (const QByteArray ziel = qgetenv("VEMO_DATENPOOL_BILD"); !ziel.isEmpty()) {
+        fenster->resize(900, 460);
+        QTest::qWait(50);
+        fenster->grab().save(QString::fromLocal8Bit(ziel));
+    }
+}
+
+// A plain dump shows its boards and the options; a click on a board puts its rendering in place, and
+// the one-main-board option hides the board number.
+TEST_F(LoggerAnsichtTest, EinEinfacherDumpZeigtVerteilerUndOptionen) {
+    modul().datenpoolModus.clear();
+    QFile liste(pfad("Verteil.txt"));
+    ASSERT_TRUE(liste.open(QIODevice::WriteOnly));
+    liste.write("\"00000021\",1,1,1,\"Keller\",1,1,1\r\n\"00000022\",1,2,1,\"Dach\",1,1,1\r\n");
+    liste.close();
+    QFile bericht(pfad("00000022.SEP"));
+    ASSERT_TRUE(bericht.open(QIODevice::WriteOnly));
+    bericht.write("OMNIVAR\r\nS: 002  P: 001\r\n");
+    bericht.close();
+    Zuordnen pool;
+    pool.zuordnungZeigen(true);
+    pool.listeFüllen();
+    const auto fenster = ansicht(pool);
+    fenster->show();
+    auto* list1 = fenster->findChild<QListWidget*>("List1");
+    ASSERT_EQ(list1->count(), 2);
+    EXPECT_EQ(list1->currentRow(), 0);
+    EXPECT_FALSE(fenster->findChild<QChartView*>()->isVisible());
+    auto* text9 = fenster->findChild<QLineEdit*>("Text9");
+    EXPECT_TRUE(text9->isVisible());
+
+    list1->setCurrentRow(1);
+    EXPECT_EQ(pool.gewählt(), 1);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    QFile ruvo(pfad("Ruvo.ser"));
+    ASSERT_TRUE(ruvo.open(QIODevice::ReadOnly));
+    EXPECT_EQ(ruvo.readAll(), "OMNIVAR\r\nS: 002  P: 001\r\n");
+
+    fenster->findChild<QCheckBox*>("Option3D1")->setChecked(true);
+    EXPECT_EQ(pool.alleVerteiler(), "JA");
+    EXPECT_FALSE(text9->isVisible());
+}
+
+TEST_F(LoggerAnsichtTest, DieFelderNehmenNurZiffern) {
+    Zuordnen pool;
+    DatenLogger logger(pool);
+    const auto fenster = ansicht(logger);
+    fenster->show();
+    fenster->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(fenster.get()));
+    auto* tag = fenster->findChild<QLineEdit*>("Text1_0");
+    auto* monat = fenster->findChild<QLineEdit*>("Text1_1");
+    ASSERT_TRUE(tag && monat);
+    tag->setFocus();
+    tag->clear();
+    QTest::keyClicks(tag, "a5.");
+    EXPECT_EQ(logger.feld(0), "5");
+    monat->setFocus();
+    EXPECT_EQ(tag->text(), "05") << "the field left shows two digits";
+    QTest::keyClick(monat, Qt::Key_End);
+    QTest::keyClick(monat, Qt::Key_Backspace);
+    EXPECT_EQ(logger.feld(1).size(), 1);
+    EXPECT_EQ(fenster->windowTitle(), logger.titel());
+}
+
+} // namespace
