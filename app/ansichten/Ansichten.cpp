@@ -1,6 +1,8 @@
 #include "ansichten/Ansichten.h"
 
 #include "grid/EinleseDatenAnsicht.h"
+#include "grid/ZuordnenAnsicht.h"
+#include "import/FormImportAnsicht.h"
 #include "links/Form2Ansicht.h"
 #include "links/KontalexAnsicht.h"
 #include "links/SorelinAnsicht.h"
@@ -22,6 +24,8 @@ const Ansichtstabelle& ansichten() {
          }},
         {"vemo::frmSorelin", &SorelinAnsicht::erstellen},
         {"vemo::Kontalex", &KontalexAnsicht::erstellen},
+        {"vemo::FormImport", &FormImportAnsicht::erstellen},
+        {"vemo::frmZuordnen", &ZuordnenAnsicht::erstellen},
     };
     return tabelle;
 }

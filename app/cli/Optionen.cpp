@@ -15,7 +15,10 @@ const char* const Gebrauch =
     "  grid [--json]           refresh and print the read-in rows with the state of each cell\n"
     "  assign --rows A[-B] --column 1..5 --key K     the grid's choice for a selection of rows\n"
     "  delete-rows --rows A[-B]\n"
-    "  take-over               take assigned rows over into the inspection records\n";
+    "  take-over               take assigned rows over into the inspection records\n"
+    "  assign-device --customer K [--plant A] [--inspection P]\n"
+    "                          bulk assignment of the newest device's read-in rows\n"
+    "  import SOURCE           bring an older database's inspections in\n";
 
 namespace {
 
@@ -58,6 +61,8 @@ const std::vector<Befehlsform> befehlsformen{
     {"assign", 0, {"rows", "column", "key"}, {}},
     {"delete-rows", 0, {"rows"}, {}},
     {"take-over", 0, {}, {}},
+    {"assign-device", 0, {"customer", "plant", "inspection"}, {}},
+    {"import", 1, {}, {}},
 };
 
 const Befehlsform* befehlsform(const QString& name) {

@@ -66,8 +66,8 @@ TEST(OptionenTest, HilfeUndVersionBrauchenKeinenBefehl) {
 }
 
 // What the contract does not hold is refused, never ignored: an option of another command, a
-// global option behind the command, and what this version has not built (read-file --start, the
-// commands assign-device, instrument and import).
+// global option behind the command, what a command does not take, and what this version has not
+// built (read-file --start, the command instrument).
 TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
     const QList<QStringList> aufrufe{
         {},
@@ -82,9 +82,9 @@ TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
         {"--db", "a.db", "grid", "--db", "b.db"},
         {"--db", "a.db", "--customer", "Sommer", "grid"},
         {"--db", "a.db", "read-file", "a.ser", "--start", "01.02.2024 10:11:12"},
-        {"--db", "a.db", "assign-device", "--customer", "1"},
+        {"--db", "a.db", "assign-device", "--rows", "1"},
         {"--db", "a.db", "instrument", "--sync-clock"},
-        {"--db", "a.db", "import", "alt.mdb"},
+        {"--db", "a.db", "import", "alt.mdb", "neu.mdb"},
     };
     for (const QStringList& aufruf : aufrufe) {
         QString fehler;
