@@ -7,11 +7,14 @@
 #include "import/Stammdaten.h"
 #include "platform/Ui.h"
 
+#include <optional>
+
 namespace vemo {
 
 namespace {
 
 const QString Quelltabellenname = "kunden";
+constexpr long Stapel = 500;
 
 // The measurement text may run over the three memo fields of the old table, in this order.
 QString messtextDerZeile(const Quellzeile& z) {
@@ -28,6 +31,13 @@ void fehlerMelden(const Fehler& f) {
 
 } // namespace
 
+// The tables the run writes, open for a batch of source rows.
+struct Importlauf::Ziele {
+    Stammdaten stamm;
+    Pruefungsdaten prüfungen;
+    Messimport messungen;
+};
+
 int Importlauf::ausführen(const QString& quellpfad) {
     std::unique_ptr<Quelltabelle> quelle;
     try {
@@ -39,15 +49,17 @@ int Importlauf::ausführen(const QString& quellpfad) {
     }
     int ergebnis = 0;
     try {
-        Stammdaten stamm;
-        Pruefungsdaten prüfungen;
-        Messimport messungen;
+        std::optional<Ziele> ziele;
         Importstand stand{quelle->anzahl(), 0};
         if (beiFortschritt)
             beiFortschritt(stand);
         long gelesen = 0;
         while (const auto zeile = quelle->nächsteZeile()) {
-            if (!zeileImportieren(*zeile, stamm, prüfungen, messungen))
+            // A table opened by name keeps the rows added through it: the run opens its tables anew
+            // now and then, so that its memory does not grow with the source.
+            if (gelesen % Stapel == 0)
+                ziele.emplace();
+            if (!zeileImportieren(*zeile, *ziele))
                 ergebnis = Messtextfehler;
             ++gelesen;
             const int prozent = stand.anzahl > 0 ? int(std::min(100L, gelesen * 100 / stand.anzahl)) : 100;
@@ -64,18 +76,17 @@ int Importlauf::ausführen(const QString& quellpfad) {
 }
 
 // False when the row's measurement text was refused; the row's inspection has arrived all the same.
-bool Importlauf::zeileImportieren(const Quellzeile& zeile, Stammdaten& stamm, Pruefungsdaten& prüfungen,
-                                  Messimport& messungen) {
-    const QVariant kunde = stamm.kunde(zeile);
-    const QVariant anlage = stamm.anlage(zeile, kunde);
-    const QVariant prüfung = prüfungen.prüfung(zeile, anlage);
-    prüfungen.betriebsmittel(zeile, prüfung);
+bool Importlauf::zeileImportieren(const Quellzeile& zeile, Ziele& ziele) {
+    const QVariant kunde = ziele.stamm.kunde(zeile);
+    const QVariant anlage = ziele.stamm.anlage(zeile, kunde);
+    const QVariant prüfung = ziele.prüfungen.prüfung(zeile, anlage);
+    ziele.prüfungen.betriebsmittel(zeile, prüfung);
     const Messtext text = messtextLesen(messtextDerZeile(zeile));
     if (!text.fehler.isEmpty()) {
         meldung(text.fehler.join("\r\n"));
         return false;
     }
-    messungen.einlesen(text, prüfung, prüfdatum(zeile));
+    ziele.messungen.einlesen(text, prüfung, prüfdatum(zeile));
     return true;
 }
 

@@ -6,9 +6,6 @@
 namespace vemo {
 
 class Quellzeile;
-class Stammdaten;
-class Pruefungsdaten;
-class Messimport;
 
 // What the import shows while it runs: the number of source rows, and how far it has come.
 struct Importstand {
@@ -31,8 +28,8 @@ public:
     static constexpr int Messtextfehler = -1;
 
 private:
-    bool zeileImportieren(const Quellzeile& zeile, Stammdaten& stamm, Pruefungsdaten& prüfungen,
-                          Messimport& messungen);
+    struct Ziele;
+    bool zeileImportieren(const Quellzeile& zeile, Ziele& ziele);
 };
 
 } // namespace vemo

@@ -98,62 +98,63 @@ void Messimport::messung(const Messkreis& k, const QVariant& stromkreisID, const
     m_messung.Update();
 }
 
+QVariant Messimport::gemerkt(const QString& merker, const std::function<QVariant()>& findenOderAnlegen) {
+    const auto it = m_typen.constFind(merker);
+    if (it != m_typen.constEnd())
+        return *it;
+    const QVariant id = findenOderAnlegen();
+    m_typen.insert(merker, id);
+    return id;
+}
+
 // "NYM-J 3x1,5": the kind before the blank, conductors and cross-section after it.
 QVariant Messimport::kabeltyp(const QString& name) {
     if (name.isEmpty())
         return 0;
-    const QString merker = "Kabeltyp|" + name.toLower();
-    if (!m_typen.contains(merker)) {
-        QVariant id = typFinden("0100_Kabeltyp", "KabeltypID", {"Name"}, {name});
-        if (!id.isValid()) {
-            static const QRegularExpression leiter("(\\d+)\\s*[xX]\\s*([\\d,.]+)");
-            const auto t = leiter.match(name);
-            id = typAnlegen("0100_Kabeltyp", "KabeltypID",
-                            {{"Name", name},
-                             {"art", name.section(' ', 0, 0)},
-                             {"Anzahl_Leiter", t.hasMatch() ? QVariant(t.captured(1).toInt()) : QVariant()},
-                             {"Querschnitt", t.hasMatch() ? t.captured(2) : QString()}});
-        }
-        m_typen.insert(merker, id);
-    }
-    return m_typen.value(merker);
+    return gemerkt("Kabeltyp|" + name.toLower(), [&] {
+        const QVariant id = typFinden("0100_Kabeltyp", "KabeltypID", {"Name"}, {name});
+        if (id.isValid())
+            return id;
+        static const QRegularExpression leiter("(\\d+)\\s*[xX]\\s*([\\d,.]+)");
+        const auto t = leiter.match(name);
+        return typAnlegen("0100_Kabeltyp", "KabeltypID",
+                          {{"Name", name},
+                           {"art", name.section(' ', 0, 0)},
+                           {"Anzahl_Leiter", t.hasMatch() ? QVariant(t.captured(1).toInt()) : QVariant()},
+                           {"Querschnitt", t.hasMatch() ? t.captured(2) : QString()}});
+    });
 }
 
 // "B16": the characteristic in letters, the rated current in digits.
 QVariant Messimport::sicherungstyp(const QString& name) {
     if (name.isEmpty())
         return 0;
-    const QString merker = "Sicherungstyp|" + name.toLower();
-    if (!m_typen.contains(merker)) {
-        QVariant id = typFinden("0100_Sicherungstyp", "SicherungstypID", {"Name"}, {name});
-        if (!id.isValid()) {
-            static const QRegularExpression teile("^([^\\d]*)([\\d,.]*)");
-            const auto t = teile.match(name);
-            id = typAnlegen("0100_Sicherungstyp", "SicherungstypID",
-                            {{"Name", name},
-                             {"Charakteristik", t.captured(1).trimmed()},
-                             {"NennStrom", t.captured(2)},
-                             {"Bezeichnung", name}});
-        }
-        m_typen.insert(merker, id);
-    }
-    return m_typen.value(merker);
+    return gemerkt("Sicherungstyp|" + name.toLower(), [&] {
+        const QVariant id = typFinden("0100_Sicherungstyp", "SicherungstypID", {"Name"}, {name});
+        if (id.isValid())
+            return id;
+        static const QRegularExpression teile("^([^\\d]*)([\\d,.]*)");
+        const auto t = teile.match(name);
+        return typAnlegen("0100_Sicherungstyp", "SicherungstypID",
+                          {{"Name", name},
+                           {"Charakteristik", t.captured(1).trimmed()},
+                           {"NennStrom", t.captured(2)},
+                           {"Bezeichnung", name}});
+    });
 }
 
 QVariant Messimport::rcdtyp(const QString& strom, const QString& art) {
     if (strom.isEmpty() && art.isEmpty())
         return 0;
-    const QString merker = "RCDtyp|" + strom.toLower() + "|" + art.toLower();
-    if (!m_typen.contains(merker)) {
-        QVariant id = typFinden("0100_RCDtyp", "RCDtypID", {"Nennfehlerstrom", "Art"}, {strom, art});
-        if (!id.isValid())
-            id = typAnlegen("0100_RCDtyp", "RCDtypID",
-                            {{"Name", ("FI " + strom + " mA " + art).simplified()},
-                             {"Nennfehlerstrom", strom},
-                             {"Art", art}});
-        m_typen.insert(merker, id);
-    }
-    return m_typen.value(merker);
+    return gemerkt("RCDtyp|" + strom.toLower() + "|" + art.toLower(), [&] {
+        const QVariant id = typFinden("0100_RCDtyp", "RCDtypID", {"Nennfehlerstrom", "Art"}, {strom, art});
+        if (id.isValid())
+            return id;
+        return typAnlegen("0100_RCDtyp", "RCDtypID",
+                          {{"Name", ("FI " + strom + " mA " + art).simplified()},
+                           {"Nennfehlerstrom", strom},
+                           {"Art", art}});
+    });
 }
 
 } // namespace vemo

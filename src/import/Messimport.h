@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QVariant>
+#include <functional>
 
 namespace vemo {
 
@@ -23,6 +24,8 @@ private:
     QVariant kabeltyp(const QString& name);
     QVariant sicherungstyp(const QString& name);
     QVariant rcdtyp(const QString& strom, const QString& art);
+    // The key found or added for this type in this run, else what findenOderAnlegen gives.
+    QVariant gemerkt(const QString& merker, const std::function<QVariant()>& findenOderAnlegen);
 
     Recordset m_verteiler, m_stromkreis, m_messung;
     QHash<QString, QVariant> m_typen; // found or added in this run, by table and columns
