@@ -66,9 +66,7 @@ JetQuelle::JetQuelle(const QString& pfad, const QString& tabelle) : m_datei(std:
     m_datei->tabelle.reset(mdb_read_table_by_name(mdb, name.data(), MDB_TABLE));
     MdbTableDef* t = m_datei->tabelle.get();
     if (!t || !mdb_read_columns(t))
-        throw Fehler(quellfehler::TabelleNichtGefunden,
-                     "Das Microsoft Jet-Datenbankmodul findet die Eingabetabelle oder -abfrage '" + tabelle +
-                         "' nicht.");
+        throw quellfehler::tabelleFehlt(tabelle);
     mdb_rewind_table(t);
     m_puffer.resize(t->num_cols);
     m_längen.resize(t->num_cols);

@@ -19,6 +19,11 @@ QString Quellzeile::text(const QString& spalte) const {
     return wert.isNull() ? QString() : wert.toString();
 }
 
+Fehler quellfehler::tabelleFehlt(const QString& tabelle) {
+    return Fehler(TabelleNichtGefunden,
+                  "Die Eingabetabelle oder -abfrage '" + tabelle + "' wurde nicht gefunden.");
+}
+
 namespace {
 
 // The first bytes of every SQLite database file.

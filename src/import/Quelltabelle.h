@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Fehler.h"
+
 #include <QHash>
 #include <QString>
 #include <QVariant>
@@ -40,6 +42,7 @@ constexpr int KeinGültigerPfad = 3044;
 constexpr int KeinGültigerName = 3055;
 constexpr int TabelleNichtGefunden = 3078;
 constexpr int UnbekanntesFormat = 3343;
+Fehler tabelleFehlt(const QString& tabelle);
 } // namespace quellfehler
 
 // Opens the table of the database at pfad: a file in the old desktop format (Jet) or one in our

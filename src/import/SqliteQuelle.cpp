@@ -40,9 +40,7 @@ SqliteQuelle::SqliteQuelle(const QString& pfad, const QString& tabelle) {
     const bool vorhanden = sqlite3_step(name) == SQLITE_ROW;
     sqlite3_finalize(name);
     if (!vorhanden)
-        scheitern(quellfehler::TabelleNichtGefunden,
-                  "Das Microsoft Jet-Datenbankmodul findet die Eingabetabelle oder -abfrage '" + tabelle +
-                      "' nicht.");
+        scheitern(quellfehler::TabelleNichtGefunden, quellfehler::tabelleFehlt(tabelle).beschreibung());
     sqlite3_stmt* zählung = vorbereiten("SELECT Count(*) FROM " + bezeichner(tabelle));
     if (sqlite3_step(zählung) == SQLITE_ROW)
         m_anzahl = long(sqlite3_column_int64(zählung, 0));
