@@ -126,6 +126,22 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Importieren erfolgreich beendet', 'Import completed successfully'),
   ('Beim Importieren sind Fehler aufgetreten.', 'Errors occurred during the import.');
 
+-- The import run's progress and failures, and the faults of an old measurement text.
+INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
+  ('Importieren nicht möglich', 'Import not possible'),
+  ('Fehler', 'Error'),
+  (' Prüfungen werden importiert', ' inspections are being imported'),
+  ('Endmarker @ nicht gefunden', 'End marker @ not found'),
+  ('Stromkreis / Platznummer Format ist fehlerhaft oder alteversion',
+   'Circuit / place number format is faulty or an old version'),
+  ('Feld hinter PlatzNr ist nicht leer, enthält ', 'Field after place number is not empty, holds '),
+  ('Feld hinter Sicherung ist nicht leer, enthält ', 'Field after fuse is not empty, holds '),
+  ('Feld hinter FI 1 ist nicht leer, enthält ', 'Field after RCD 1 is not empty, holds '),
+  ('Feld hinter FI 2 ist nicht leer, enthält ', 'Field after RCD 2 is not empty, holds '),
+  (' Datei enthält Fehler, kann nicht Importiert werden.', ' File contains errors, cannot be imported.'),
+  ('vemotrix 0100', 'vemotrix 0100'),
+  ('Die eingelesenen Messungen des Geräts jetzt zuordnen?', 'Assign the device''s read-in measurements now?');
+
 -- Captions of the host program.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Datenbank', 'Database'),

@@ -1,6 +1,8 @@
 #include "ansichten/Ansichten.h"
 
 #include "grid/EinleseDatenAnsicht.h"
+#include "grid/SammelzuordnungAnsicht.h"
+#include "import/FormImportAnsicht.h"
 #include "links/Form2Ansicht.h"
 #include "links/KontalexAnsicht.h"
 #include "links/SorelinAnsicht.h"
@@ -28,6 +30,8 @@ const Ansichtstabelle& ansichten() {
         {"vemo::frmSettingZEMAK3710", &ZemakEinstellungAnsicht::erstellen},
         {"vemo::Zuordnen", &ZuordnenAnsicht::erstellen},
         {"vemo::DatenLogger", &DatenLoggerAnsicht::erstellen},
+        {"vemo::FormImport", &FormImportAnsicht::erstellen},
+        {"vemo::frmZuordnen", &SammelzuordnungAnsicht::erstellen},
     };
     return tabelle;
 }

@@ -6,6 +6,8 @@
 #include "core/ModulState.h"
 #include "grid/EinleseDatenController.h"
 #include "grid/GridBefehle.h"
+#include "grid/ZuordnenDialog.h"
+#include "import/FormImport.h"
 #include "language/SprachDatenbank.h"
 #include "logger/Reihenausgabe.h"
 #include "platform/Fehler.h"
@@ -158,13 +160,63 @@ int instrument(const Optionen& o) {
     });
 }
 
+// Chooses the entry with the key in a combo box of the bulk assignment; false, with a message, when
+// the box offers no such entry.
+bool wählen(const vemo::Zuordnungsliste& liste, const QString& schlüssel, const QString& was,
+            const std::function<void(int)>& klick) {
+    const int index = vemo::eintragMitSchlüssel(liste.einträge, schlüssel.toInt());
+    if (!liste.aktiv || index < 0) {
+        ausgeben("vemo0100: assign-device: the newest device's rows cannot go to " + was + " " + schlüssel);
+        return false;
+    }
+    klick(index);
+    return true;
+}
+
+int assignDevice(const Optionen& o) {
+    const auto kunde = o.option("--customer");
+    if (!kunde) {
+        ausgeben("vemo0100: assign-device needs --customer K [--plant A] [--inspection P]");
+        return 2;
+    }
+    return mitKomponente(o, [&](Sitzung&) {
+        vemo::frmZuordnen form;
+        const auto anlage = o.option("--plant");
+        const auto prüfung = o.option("--inspection");
+        if (!wählen(form.comboKunde(), *kunde, "customer", [&](int i) { form.kundeKlick(i); }) ||
+            (anlage && !wählen(form.comboAnlage(), *anlage, "plant", [&](int i) { form.anlageKlick(i); })) ||
+            (prüfung &&
+             !wählen(form.comboPrüfung(), *prüfung, "inspection", [&](int i) { form.prüfungKlick(i); })))
+            return 1;
+        form.weiterKlick();
+        return 0;
+    });
+}
+
+int importieren(const Optionen& o) {
+    const QString quelle = o.argumente.value(0);
+    if (quelle.isEmpty()) {
+        ausgeben("vemo0100: import needs the path of the older database");
+        return 2;
+    }
+    return mitKomponente(o, [&](Sitzung&) {
+        vemo::FormImport form;
+        form.setDatenquelle(quelle);
+        QObject::connect(&form, &vemo::FormImport::progressed,
+                         [](int prozent) { ausgeben(QString::number(prozent) + "%"); });
+        form.konvertierenKlick();
+        return form.ergebnisCode() == 0 ? 0 : 1;
+    });
+}
+
 } // namespace
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
-        {"init-db", initDb},  {"read-file", readFile},     {"grid", grid},
-        {"assign", assign},   {"delete-rows", deleteRows}, {"take-over", takeOver},
-        {"receive", receive}, {"instrument", instrument},
+        {"init-db", initDb},       {"read-file", readFile},         {"grid", grid},
+        {"assign", assign},        {"delete-rows", deleteRows},     {"take-over", takeOver},
+        {"receive", receive},      {"assign-device", assignDevice}, {"import", importieren},
+        {"instrument", instrument},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

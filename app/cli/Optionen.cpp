@@ -18,7 +18,10 @@ const char* const Gebrauch =
     "  delete-rows --rows A[-B]\n"
     "  take-over               take assigned rows over into the inspection records\n"
     "  instrument [--set-id TEXT] [--sync-clock] [--clear-memory] [--code-splitting on|off]\n"
-    "             [--customer-digits 1..3] [--board-digits 1..3]   settings of a 37xx instrument\n";
+    "             [--customer-digits 1..3] [--board-digits 1..3]   settings of a 37xx instrument\n"
+    "  assign-device --customer K [--plant A] [--inspection P]\n"
+    "                          bulk assignment of the newest device's read-in rows\n"
+    "  import SOURCE           bring an older database's inspections in\n";
 
 namespace {
 
@@ -65,6 +68,8 @@ const std::vector<Befehlsform> befehlsformen{
      0,
      {"set-id", "code-splitting", "customer-digits", "board-digits"},
      {"sync-clock", "clear-memory"}},
+    {"assign-device", 0, {"customer", "plant", "inspection"}, {}},
+    {"import", 1, {}, {}},
 };
 
 const Befehlsform* befehlsform(const QString& name) {

@@ -5,6 +5,7 @@
 
 #include "core/Geraetetypen.h"
 #include "core/ModulState.h"
+#include "grid/ZuordnenDialog.h"
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
 #include "platform/SettingsStore.h"
@@ -127,7 +128,7 @@ void Hauptfenster::menüsBauen() {
     m_befehlsMenü = menuBar()->addMenu(QString());
     vemo0100Modul15a& k = m_komponente;
     m_befehle = {
-        {"Daten empfangen", [&k] { k.DatenEmpfangen(); }},
+        {"Daten empfangen", [this, &k] { nachEinlesen([&k] { k.DatenEmpfangen(); }); }},
         {"Einlesedaten",
          [this, &k] {
              k.EinleseDaten();
@@ -136,7 +137,7 @@ void Hauptfenster::menüsBauen() {
              k.setEinlesedatenIDRow(0);
              Zertifikatswerte::ergebnisseZeigen(this);
          }},
-        {"Einlesen aus Datei", [&k] { k.EinlesenAusDatei(); }},
+        {"Einlesen aus Datei", [this, &k] { nachEinlesen([&k] { k.EinlesenAusDatei(); }); }},
         {"Datenlogger", [&k] { k.DatenLogger(); }},
         {"Daten importieren", [&k] { k.DatenImportieren(); }},
         {"Einstellung ZEMAK 3710", [&k] { k.EinstellungZemak3710(); }},
@@ -172,6 +173,34 @@ void Hauptfenster::befehl(const std::function<void()>& ausführen) {
     eigenschaftenÜbernehmen();
     ausführen();
     m_übersicht->aktualisieren();
+}
+
+// The key of the newest read-in device; empty when there is none.
+QString Hauptfenster::neuestesGerät() const {
+    QString gerät;
+    mitFalle([&] {
+        const Recordset rs = m_komponente.vemotrixDB().OpenRecordset(
+            "SELECT Max(GeräteID) AS Neuestes FROM 0100_EinleseGeräteDaten");
+        gerät = rs.Text("Neuestes");
+    });
+    return gerät;
+}
+
+// A read-in that brought a device's rows offers to assign them all at once, then shows the grid.
+// The user may decline and assign row by row in the grid.
+void Hauptfenster::nachEinlesen(const std::function<void()>& einlesen) {
+    const QString vorher = neuestesGerät();
+    einlesen();
+    const QString nachher = neuestesGerät();
+    if (nachher.isEmpty() || nachher == vorher)
+        return;
+    const MsgStil frage{MsgKnöpfe::JaNein, MsgSymbol::Frage, 1};
+    if (ui().MsgBox(xText("Die eingelesenen Messungen des Geräts jetzt zuordnen?"), modul().anwendungstitel,
+                    frage) == antwort::Ja) {
+        frmZuordnen zuordnen;
+        ui().zeigeModal(zuordnen);
+    }
+    m_komponente.EinleseDaten();
 }
 
 void Hauptfenster::datenbankSetzen(const QString& pfad) {

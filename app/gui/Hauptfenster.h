@@ -34,6 +34,8 @@ private:
     void menüsBauen();
     void beschriften();
     void befehl(const std::function<void()>& ausführen);
+    void nachEinlesen(const std::function<void()>& einlesen);
+    QString neuestesGerät() const;
     void datenbankSetzen(const QString& pfad);
     void spracheSetzen(const QString& sprache);
     void eigenschaftenÜbernehmen();

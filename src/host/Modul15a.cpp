@@ -6,6 +6,7 @@
 #include "host/DateiEinlesen.h"
 #include "host/Transfer.h"
 #include "host/Worttabellen.h"
+#include "import/FormImport.h"
 #include "language/SprachDatenbank.h"
 #include "links/ZemakEinstellung.h"
 #include "platform/Ui.h"
@@ -169,7 +170,10 @@ void vemo0100Modul15a::EinlesenAusDatei() {
 }
 void vemo0100Modul15a::DatenLogger() {}
 void vemo0100Modul15a::DatenImportieren() {
-    mitFalle(nichtVerfügbar);
+    mitFalle([] {
+        FormImport form;
+        ui().zeigeModal(form);
+    });
 }
 void vemo0100Modul15a::EinstellungZemak3710() {
     mitFalle(einstellungZemak3710);

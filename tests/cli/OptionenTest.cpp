@@ -66,8 +66,7 @@ TEST(OptionenTest, HilfeUndVersionBrauchenKeinenBefehl) {
 }
 
 // What the contract does not hold is refused, never ignored: an option of another command, a
-// global option behind the command, an option without its value, and what this version has not
-// built (read-file --start, the commands assign-device and import).
+// global option behind the command, an option without its value, and what a command does not take.
 TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
     const QList<QStringList> aufrufe{
         {},
@@ -81,9 +80,9 @@ TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
         {"--db", "a.db", "read-file", "a.ser", "b.ser"},
         {"--db", "a.db", "grid", "--db", "b.db"},
         {"--db", "a.db", "--customer", "Sommer", "grid"},
-        {"--db", "a.db", "assign-device", "--customer", "1"},
         {"--db", "a.db", "instrument", "--set-id"},
-        {"--db", "a.db", "import", "alt.mdb"},
+        {"--db", "a.db", "assign-device", "--rows", "1"},
+        {"--db", "a.db", "import", "alt.mdb", "neu.mdb"},
     };
     for (const QStringList& aufruf : aufrufe) {
         QString fehler;

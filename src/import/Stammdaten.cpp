@@ -1,0 +1,108 @@
+#include "import/Stammdaten.h"
+
+#include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
+#include "core/Vorbelegung.h"
+#include "import/Adresse.h"
+#include "store/Datenbank.h"
+#include "store/Variant.h"
+
+#include <QDateTime>
+
+namespace vemo {
+
+namespace {
+
+bool gleicherText(const QString& a, const QString& b) {
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+bool ohneKundeUndAnlage(const Quellzeile& z) {
+    return z.text("Kunden").isEmpty() && z.text("Anlage").isEmpty();
+}
+
+// The next inspection counts only when the old mask held a date with its time.
+QVariant nächstePrüfung(const Quellzeile& z) {
+    const QVariant wert = z.feld("Form1_MaskedEdit11");
+    const QString t = wert.typeId() == QMetaType::QDateTime
+                          ? wert.toDateTime().toString("dd.MM.yyyy HH:mm:ss")
+                          : z.text("Form1_MaskedEdit11").trimmed();
+    if (!t.contains(':'))
+        return nullWert();
+    for (const char* form : {"dd.MM.yyyy HH:mm:ss", "dd.MM.yyyy HH:mm", "yyyy-MM-dd HH:mm:ss"}) {
+        const QDateTime d = QDateTime::fromString(t, form);
+        if (d.isValid())
+            return d.date();
+    }
+    return nullWert();
+}
+
+} // namespace
+
+Stammdaten::Stammdaten()
+    : m_kunden(db().OpenRecordset("Kunde")), m_anlagen(db().OpenRecordset("0100_Anlage")) {}
+
+QVariant Stammdaten::kunde(const Quellzeile& z) {
+    // The names go into the statements as they stand: an apostrophe in one fails the look-up. The
+    // statement for rows without customer and plant asks for a blank name, as it always has.
+    const QString abfrage = ohneKundeUndAnlage(z)
+                                ? QString("SELECT * FROM Kunde where Name = ' '")
+                                : "SELECT * FROM Kunde where Name = '" + z.text("Kunden") + "'";
+    const QVariant gefunden = gleicherKunde(abfrage, z);
+    return gefunden.isValid() ? gefunden : neuerKunde(z);
+}
+
+QVariant Stammdaten::gleicherKunde(const QString& abfrage, const Quellzeile& z) const {
+    Recordset rs = db().OpenRecordset(abfrage);
+    if (rs.Eof())
+        return {};
+    const QString adresse3 = z.text("Adresse3");
+    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext())
+        if (gleicherText(rs.Text("Strasse"), z.text("Adresse")) &&
+            gleicherText(rs.Text("Plz"), sPLZ(adresse3)) && gleicherText(rs.Text("Stadt"), sStadt(adresse3)))
+            return rs.Field("KundeID");
+    return {};
+}
+
+QVariant Stammdaten::neuerKunde(const Quellzeile& z) {
+    m_kunden.AddNew();
+    const qint32 neu = NeueID("", m_kunden.Name());
+    m_kunden.setField("KundeID", neu);
+    NeueZeileVorbelegen("Kunde", m_kunden, QVariant());
+    m_kunden.setField("Name", z.text("Kunden"));
+    m_kunden.setField("Firma", z.text("Kunden"));
+    m_kunden.setField("Kundennummer", z.text("Nr"));
+    m_kunden.setField("Strasse", z.text("Adresse"));
+    m_kunden.setField("Plz", sPLZ(z.text("Adresse3")));
+    m_kunden.setField("Stadt", sStadt(z.text("Adresse3")));
+    m_kunden.Update();
+    return neu;
+}
+
+QVariant Stammdaten::anlage(const Quellzeile& z, const QVariant& kundeID) {
+    // As for the customer: the texts stand in the statements as they are, and the statement for rows
+    // without customer and plant keeps its old spelling, which looks at every customer's plants.
+    const QString abfrage =
+        ohneKundeUndAnlage(z) ? QString("SELECT * FROM 0100_Anlage where Name = ''AND Code =''")
+                              : "SELECT * FROM 0100_Anlage where Name = '" + z.text("Anlage") +
+                                    "' AND Code ='" + z.text("Anlage") + "' AND KundeID = " + text(kundeID) +
+                                    " AND Anlagenplaner = '" + z.text("Anlagenplaner") + "'";
+    const Recordset rs = db().OpenRecordset(abfrage);
+    return rs.Eof() ? neueAnlage(z, kundeID) : rs.Field("AnlageID");
+}
+
+QVariant Stammdaten::neueAnlage(const Quellzeile& z, const QVariant& kundeID) {
+    m_anlagen.AddNew();
+    const qint32 neu = NeueID("", m_anlagen.Name());
+    m_anlagen.setField("AnlageID", neu);
+    NeueZeileVorbelegen("Anlage", m_anlagen, kundeID);
+    m_anlagen.setField("KundeID", kundeID);
+    m_anlagen.setField("Code", z.text("Anlage"));
+    m_anlagen.setField("Name", z.text("Anlage"));
+    m_anlagen.setField("NächstePrüfung", nächstePrüfung(z));
+    m_anlagen.setField("Anlagenplaner", z.text("Anlagenplaner"));
+    m_anlagen.Update();
+    return neu;
+}
+
+} // namespace vemo

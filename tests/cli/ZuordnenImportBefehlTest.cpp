@@ -1,0 +1,78 @@
+#include "language/SprachDatenbank.h"
+#include "store/Datenbank.h"
+#include "store/Schema.h"
+#include "support/Testumgebung.h"
+
+#include <QProcess>
+
+namespace vemo::test {
+namespace {
+
+struct Ergebnis {
+    int status;
+    QString fehler;
+};
+
+class ZuordnenImportBefehlTest : public Testumgebung {
+protected:
+    void SetUp() override {
+        Testumgebung::SetUp();
+        neueDatenbank(true);
+        spracheDatenbankAnlegen(m_dir.path());
+        // The program opens the database as another connection; this one lets go of it.
+        modul().db.Close();
+    }
+
+    Ergebnis vemo0100(const QStringList& befehl) const {
+        QProcess p;
+        p.start(QString(VEMO_BIN_DIR) + "/vemo0100",
+                QStringList{"--db", m_dbPfad, "--settings", pfad("s.ini")} + befehl);
+        EXPECT_TRUE(p.waitForFinished(30000)) << befehl.join(' ').toStdString();
+        return {p.exitCode(), QString::fromLocal8Bit(p.readAllStandardError())};
+    }
+    QString abfrage(const QString& sql) const {
+        const Recordset rs = Datenbank::OpenDatabase(m_dbPfad).OpenRecordset(sql);
+        return rs.Eof() ? QString() : rs.Text(rs.FieldName(0));
+    }
+};
+
+TEST_F(ZuordnenImportBefehlTest, AssignDeviceWritesTheNewestDevicesRows) {
+    Datenbank::OpenDatabase(m_dbPfad).skriptAusführen(
+        "INSERT INTO \"0100_EinleseGeräteDaten\" (GeräteID, PrüfgerätName) VALUES (1, 'alt'), (2, 'neu');"
+        "INSERT INTO \"0100_EinleseDaten\" (MessungID, GeräteID, AnlageNr) VALUES (1, 1, '001'), (2, 2, "
+        "'001'), "
+        "(3, 2, '001');");
+    const Ergebnis falsch = vemo0100({"assign-device", "--customer", "1", "--plant", "3"});
+    EXPECT_EQ(falsch.status, 1);
+    EXPECT_TRUE(falsch.fehler.contains("cannot go to plant 3")) << falsch.fehler.toStdString();
+    EXPECT_EQ(abfrage("SELECT Sum(KundeID) FROM 0100_EinleseDaten"), "0");
+
+    const Ergebnis gut = vemo0100({"assign-device", "--customer", "1", "--inspection", "1"});
+    EXPECT_EQ(gut.status, 0) << gut.fehler.toStdString();
+    EXPECT_EQ(abfrage("SELECT group_concat(KundeID || '/' || AnlageID || '/' || PrüfungID, ' ') FROM "
+                      "(SELECT * FROM 0100_EinleseDaten ORDER BY MessungID)"),
+              "0/0/0 1/1/1 1/1/1");
+    EXPECT_EQ(vemo0100({"assign-device"}).status, 2);
+}
+
+TEST_F(ZuordnenImportBefehlTest, ImportShowsItsPercentagesAndItsResult) {
+    const QString quelle = pfad("alt.db");
+    Datenbank::anlegen(quelle).skriptAusführen(
+        "CREATE TABLE kunden (Kunden, Adresse, Adresse3, Anlage, Reserve3);"
+        "INSERT INTO kunden VALUES ('Neubau Ost', 'Ring 1', '37073 Göttingen', 'Halle', '!1/1;;Licht#@'),"
+        "('Neubau Ost', 'Ring 1', '37073 Göttingen', 'Halle', '');");
+    const Ergebnis lauf = vemo0100({"import", quelle});
+    EXPECT_EQ(lauf.status, 0) << lauf.fehler.toStdString();
+    EXPECT_EQ(lauf.fehler, "0%\n50%\n100%\nvemotrix professional: Importieren erfolgreich beendet\n");
+    EXPECT_EQ(abfrage("SELECT Count(*) FROM Kunde WHERE Name = 'Neubau Ost'"), "1");
+    EXPECT_EQ(abfrage("SELECT Count(*) FROM 0100_Stromkreis WHERE Name = 'Licht'"), "1");
+
+    const Ergebnis fehlt = vemo0100({"import", pfad("fehlt.mdb")});
+    EXPECT_EQ(fehlt.status, 1);
+    EXPECT_TRUE(fehlt.fehler.startsWith("vemotrix professional: Importieren nicht möglich | Fehler 3024:  "))
+        << fehlt.fehler.toStdString();
+    EXPECT_EQ(vemo0100({"import"}).status, 2);
+}
+
+} // namespace
+} // namespace vemo::test

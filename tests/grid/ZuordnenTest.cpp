@@ -1,0 +1,137 @@
+#include "GridUmgebung.h"
+
+#include "grid/ZuordnenDialog.h"
+#include "takeover/Uebernahme.h"
+
+using namespace vemo;
+using namespace vemo::test;
+
+namespace {
+
+// The demo customers: Bäckerei Sommer (1) with plants 001 Backstube (1, inspection 1) and 002
+// Verkaufsraum (2); Wohnbau Nordhang (2) with plant 001 Haus 17 (3). Device 1 read in before the
+// newest device 2.
+class ZuordnenTest : public GridUmgebung {
+protected:
+    void SetUp() override {
+        GridUmgebung::SetUp();
+        gerät(1, "0100-Corvex");
+        gerät(2, "0100-Varitron");
+        zeile({.messungID = 1, .geräteID = 1, .anlageNr = "001", .verteilerNr = "1", .stromkreisNr = "1"});
+    }
+
+    // Rows of the newest device with the given plant numbers.
+    void neuesteZeilen(const QStringList& anlageNummern) {
+        int id = 10;
+        for (const QString& nr : anlageNummern)
+            zeile(
+                {.messungID = id++, .geräteID = 2, .anlageNr = nr, .verteilerNr = "1", .stromkreisNr = "1"});
+    }
+
+    static int kundeIndex(const frmZuordnen& f, int kundeID) {
+        return eintragMitSchlüssel(f.comboKunde().einträge, kundeID);
+    }
+    static QStringList texte(const Zuordnungsliste& l) {
+        QStringList t;
+        for (const ComboEintrag& e : l.einträge)
+            t << e.text;
+        return t;
+    }
+    QString schlüssel(int messungID) const {
+        return feld(messungID, "KundeID") + "/" + feld(messungID, "AnlageID") + "/" +
+               feld(messungID, "PrüfungID");
+    }
+};
+
+TEST_F(ZuordnenTest, TheCustomersComeByNameAndPlantAndInspectionWaitForOne) {
+    neuesteZeilen({"001"});
+    frmZuordnen f;
+    EXPECT_EQ(texte(f.comboKunde()),
+              (QStringList{"Bäckerei Sommer", "Praxis Dr. Feldmann", "Wohnbau Nordhang"}));
+    EXPECT_FALSE(f.comboAnlage().aktiv);
+    EXPECT_FALSE(f.comboPrüfung().aktiv);
+    EXPECT_EQ(f.beschriftungen().rahmen, "Eingelesene Messungen Zuordnen zu ");
+
+    // Nothing chosen: Weiter changes no row and unloads the form.
+    f.geöffnet();
+    f.weiterKlick();
+    EXPECT_FALSE(f.istOffen());
+    EXPECT_EQ(schlüssel(10), "0/0/0");
+}
+
+TEST_F(ZuordnenTest, AKnownPlantNumberIsPreselectedWithItsInspections) {
+    neuesteZeilen({"001", "001"});
+    frmZuordnen f;
+    f.kundeKlick(kundeIndex(f, 1));
+    ASSERT_TRUE(f.comboAnlage().aktiv);
+    EXPECT_EQ(texte(f.comboAnlage()), (QStringList{"001 A1 Backstube", "002 A2 Verkaufsraum"}));
+    EXPECT_EQ(f.comboAnlage().listIndex, 0);
+    EXPECT_TRUE(f.comboPrüfung().aktiv);
+    ASSERT_EQ(f.comboPrüfung().einträge.size(), 1);
+    EXPECT_TRUE(f.comboPrüfung().einträge[0].text.endsWith(" 00000001"));
+    EXPECT_FALSE(f.comboPrüfung().gewählt());
+
+    f.prüfungKlick(0);
+    f.weiterKlick();
+    EXPECT_EQ(schlüssel(10), "1/1/1");
+    EXPECT_EQ(schlüssel(11), "1/1/1");
+    EXPECT_EQ(schlüssel(1), "0/0/0"); // the older device's row stays as it is
+
+    // Another plant chosen by hand lists its own inspections: plant 2 has none.
+    f.anlageKlick(1);
+    EXPECT_TRUE(f.comboPrüfung().einträge.isEmpty());
+}
+
+TEST_F(ZuordnenTest, TwoPlantNumbersOnTheDeviceAssignTheCustomerAlone) {
+    neuesteZeilen({"001", "002"});
+    frmZuordnen f;
+    f.kundeKlick(kundeIndex(f, 1));
+    EXPECT_FALSE(f.comboAnlage().aktiv);
+    EXPECT_FALSE(f.comboPrüfung().aktiv);
+    EXPECT_TRUE(f.comboAnlage().einträge.isEmpty());
+    f.weiterKlick();
+    EXPECT_EQ(schlüssel(10), "1/0/0");
+    EXPECT_EQ(schlüssel(11), "1/0/0");
+}
+
+TEST_F(ZuordnenTest, AnEmptyPlantNumberPreselectsTheFirstPlantWithoutInspection) {
+    neuesteZeilen({""});
+    frmZuordnen f;
+    f.kundeKlick(kundeIndex(f, 1));
+    EXPECT_TRUE(f.comboAnlage().aktiv);
+    EXPECT_EQ(f.comboAnlage().listIndex, 0);
+    EXPECT_FALSE(f.comboPrüfung().aktiv);
+    f.weiterKlick();
+    EXPECT_EQ(schlüssel(10), "1/1/0");
+}
+
+TEST_F(ZuordnenTest, AnUnknownPlantNumberIsOfferedFirstAndBecomesANewPlantAtTheTakeOver) {
+    neuesteZeilen({"007"});
+    frmZuordnen f;
+    f.kundeKlick(kundeIndex(f, 2));
+    EXPECT_EQ(texte(f.comboAnlage()), (QStringList{"007", "001 H17 Haus 17"}));
+    EXPECT_EQ(f.comboAnlage().listIndex, 0);
+    EXPECT_FALSE(f.comboPrüfung().aktiv);
+    f.weiterKlick();
+    EXPECT_EQ(schlüssel(10), "2/0/0");
+
+    const long anlagenVorher = anzahl("0100_Anlage");
+    EinleseDatenController::datenübernahmeEinsetzen(Übernehmen);
+    EinleseDatenController grid;
+    grid.übernehmenKlick();
+    EXPECT_EQ(anzahl("0100_Anlage"), anlagenVorher + 1);
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Anlage WHERE KundeID = 2 AND Code = '007'"), "1");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseDaten WHERE GeräteID = 2"), "0");
+}
+
+TEST_F(ZuordnenTest, ACustomerWithoutPlantsLeavesThePlantsEmpty) {
+    neuesteZeilen({"001"});
+    sql("INSERT INTO Kunde (KundeID, Name) VALUES (9, 'Neukunde')");
+    frmZuordnen f;
+    f.kundeKlick(kundeIndex(f, 9));
+    EXPECT_TRUE(f.comboAnlage().einträge.isEmpty());
+    f.weiterKlick();
+    EXPECT_EQ(schlüssel(10), "9/0/0");
+}
+
+} // namespace
