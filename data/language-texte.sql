@@ -176,15 +176,8 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Der Schlüssel muss eine Zahl sein', 'The key must be a number'),
   ('Dieser Schlüssel steht nicht in der Auswahlliste', 'This key is not in the selection list');
 
--- What this version cannot do yet, and a host that has not set up the take-over.
+-- A host that has not set up the take-over.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
-  ('Die Datenübertragung von diesem Gerätetyp ist in dieser Version noch nicht möglich.',
-   'Data transfer from this instrument type is not yet possible in this version.'),
-  ('Das Einlesen dieses Gerätetyps ist noch nicht möglich', 'Reading in this instrument type is not yet possible'),
-  ('Die Aufzeichnung eines Datenloggers kann in dieser Version noch nicht übernommen werden. '
-   || 'Die Datei bleibt erhalten.',
-   'This version cannot take over a data logger recording yet. The file is kept.'),
-  ('Diese Funktion ist in dieser Version noch nicht verfügbar.', 'This function is not yet available in this version.'),
   ('Die Datenübernahme ist in diesem Programm nicht eingerichtet.', 'Taking over data is not set up in this program.');
 
 -- Keys that name a text rather than being it: the German wording stands in Deutsch.

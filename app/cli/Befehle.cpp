@@ -213,9 +213,9 @@ int importieren(const Optionen& o) {
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
-        {"init-db", initDb},       {"read-file", readFile},         {"grid", grid},
-        {"assign", assign},        {"delete-rows", deleteRows},     {"take-over", takeOver},
-        {"receive", receive},      {"assign-device", assignDevice}, {"import", importieren},
+        {"init-db", initDb},        {"read-file", readFile},         {"grid", grid},
+        {"assign", assign},         {"delete-rows", deleteRows},     {"take-over", takeOver},
+        {"receive", receive},       {"assign-device", assignDevice}, {"import", importieren},
         {"instrument", instrument},
     };
     const auto it = befehle.find(o.befehl);

@@ -1,7 +1,7 @@
 #include "Uebersicht.h"
 
-#include "Zertifikatswerte.h"
 #include "Reihenanzeige.h"
+#include "Zertifikatswerte.h"
 
 #include "core/ModulState.h"
 #include "store/Recordset.h"

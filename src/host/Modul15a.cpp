@@ -17,15 +17,6 @@
 
 using namespace vemo;
 
-namespace {
-
-// A feature of the host's menu that this version does not have yet.
-void nichtVerfügbar() {
-    ui().MsgBox(xText("Diese Funktion ist in dieser Version noch nicht verfügbar."), modul().anwendungstitel);
-}
-
-} // namespace
-
 vemo0100Modul15a::vemo0100Modul15a(Ui& u, SettingsStore& s) : m_ui(&u), m_settings(&s) {
     modul().ui = &u;
     modul().settings = &s;

@@ -35,7 +35,7 @@ TEST_F(SammelzuordnungAnsichtTest, TheCombosFollowTheFormAndWeiterWritesTheRows)
     QComboBox* anlage = combo("ComboAnlage");
     QComboBox* prüfung = combo("ComboPrüfung");
     ASSERT_TRUE(kunde && anlage && prüfung);
-    EXPECT_EQ(kunde->count(), 3);
+    EXPECT_EQ(kunde->count(), 4);
     EXPECT_EQ(kunde->currentIndex(), -1);
     EXPECT_FALSE(anlage->isEnabled());
 

@@ -46,8 +46,8 @@ protected:
 TEST_F(ZuordnenTest, TheCustomersComeByNameAndPlantAndInspectionWaitForOne) {
     neuesteZeilen({"001"});
     frmZuordnen f;
-    EXPECT_EQ(texte(f.comboKunde()),
-              (QStringList{"Bäckerei Sommer", "Praxis Dr. Feldmann", "Wohnbau Nordhang"}));
+    EXPECT_EQ(texte(f.comboKunde()), (QStringList{"Bäckerei Sommer", "Fitzroy Building",
+                                                  "Praxis Dr. Feldmann", "Wohnbau Nordhang"}));
     EXPECT_FALSE(f.comboAnlage().aktiv);
     EXPECT_FALSE(f.comboPrüfung().aktiv);
     EXPECT_EQ(f.beschriftungen().rahmen, "Eingelesene Messungen Zuordnen zu ");
