@@ -105,9 +105,7 @@ void Uebersicht::beschriften() {
 
 void Uebersicht::aktualisieren() {
     m_baum->clear();
-    m_messungen->clear();
-    m_messungen->setRowCount(0);
-    m_messungen->setColumnCount(0);
+    messungenZeigen(nullptr);
     if (!db().istOffen())
         return;
     mitFalle([this] {
@@ -143,7 +141,12 @@ void Uebersicht::messungenZeigen(QTreeWidgetItem* knoten) {
     m_messungen->clear();
     m_messungen->setRowCount(0);
     m_messungen->setColumnCount(0);
-    if (!knoten || knoten->data(0, Ebene).toInt() != int(stufen().size()) - 1)
+    // Measurements belong to a circuit: elsewhere their table would only stand empty above the
+    // certificate's values or a logger series.
+    const bool stromkreis = knoten && knoten->data(0, Ebene).toInt() == int(stufen().size()) - 1;
+    m_kopf->setVisible(stromkreis);
+    m_messungen->setVisible(stromkreis);
+    if (!stromkreis)
         return;
     mitFalle([&] {
         struct Zeile {
