@@ -13,6 +13,7 @@
 #include "takeover/MesswertUebernehmen.h"
 #include "takeover/MesswertUebernehmenZertifikat.h"
 #include "takeover/Messzeilen.h"
+#include "takeover/Zertifikatssatz.h"
 
 #include <QDate>
 
@@ -43,7 +44,6 @@ private:
     void neuePrüfung();
     void verteilerUndStromkreis(const Recordset& z);
     void werteÜbernehmen(const Recordset& z);
-    bool istDachPrüfung() const;
 
     EinleseDatenController& m_form;
     const bool m_englisch;
@@ -128,10 +128,7 @@ void Lauf::neuePrüfung() {
     m_prüfung.Update();
     m_prüfung.setBookmark(m_prüfung.LastModified());
 
-    Recordset zertifikat = db().OpenRecordset("0100U_CertNic");
-    zertifikat.AddNew();
-    zertifikat.setField("pid", neu);
-    zertifikat.Update();
+    ZertifikatssatzAnlegen(neu);
     BetriebsmittelAnlegen(neu);
 
     const QString anlage = text(m_schlüssel.anlageID);
@@ -206,25 +203,18 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
     m_stromkreis.setField("Code", stromkreisNr);
     m_stromkreis.Update();
     m_stromkreis.setBookmark(m_stromkreis.LastModified());
-    if (!istDachPrüfung()) {
+    if (istZertifikat(m_schlüssel.prüfungID)) {
         Recordset messung = db().OpenRecordset("SELECT * FROM 0100_Messung");
         NewMessung(messung); // a certificate circuit always has its one measurement row
     }
 }
 
-bool Lauf::istDachPrüfung() const {
-    const Recordset typ =
-        db().OpenRecordset("SELECT Typ FROM 0100_Prüfung WHERE PrüfungID = " + text(m_schlüssel.prüfungID));
-    const QString t = typ.Eof() ? QString() : typ.Text("Typ");
-    return t.isEmpty() || t == "DACH" || t == "DACH2010";
-}
-
 void Lauf::werteÜbernehmen(const Recordset& z) {
-    if (istDachPrüfung())
-        MesswertÜbernehmen(z.Field("MessungID"), z.Field("Datum"), z.Field("Uhrzeit"));
-    else
+    if (istZertifikat(m_schlüssel.prüfungID))
         MesswertÜbernehmenZertifikat(z.Field("MessungID"), m_schlüssel.stromkreisID, m_schlüssel.verteilerID,
                                      m_schlüssel.prüfungID);
+    else
+        MesswertÜbernehmen(z.Field("MessungID"), z.Field("Datum"), z.Field("Uhrzeit"));
 }
 
 void Lauf::zeilenÜbernehmen(Recordset& z) {
