@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QProcess>
 #include <csignal>
+#include <ostream>
 
 using namespace vemo;
 
@@ -35,6 +36,11 @@ struct Phase {
     QString arbeitsdatei;
     Datei datei;
 };
+
+// The phase by its name in the test's output, not as the bytes of the struct.
+void PrintTo(const Phase& p, std::ostream* aus) {
+    *aus << p.typ << " " << p.name;
+}
 
 // A 37xx instrument answers only to its own model's name; a 3740 on the line keeps a search for
 // another model searching.
