@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "core/Schluesselvergabe.h"
+#include "platform/Dialog.h"
 #include "platform/Zahlformat.h"
 #include "store/Schema.h"
 
@@ -67,6 +68,9 @@ void Fuzzumgebung::frischerLauf() {
     ui.meldungen.clear();
     ui.dialoge.clear();
     ui.dateiDialoge.clear();
+    // Nobody sits at the fuzzer: a dialog an input opens (the data pool of a logger dump, say) is
+    // closed as soon as it shows, as a user who cancels it would.
+    ui.beiDialog = [](DialogController& d) { d.schließen(); };
     ModulState& m = modul();
     m.ui = &ui;
     m.settings = &settings;
