@@ -24,6 +24,11 @@ QString ohneKlammern(QString name) {
         name = name.mid(1, name.size() - 2);
     return name;
 }
+
+bool ändertSchema(const QString& sql) {
+    const QString wort = sql.section(' ', 0, 0, QString::SectionSkipEmpty).toUpper();
+    return wort == "CREATE" || wort == "ALTER" || wort == "DROP";
+}
 } // namespace
 
 Datenbank::Datenbank() = default;
@@ -85,10 +90,14 @@ void Datenbank::Execute(const QString& anweisung) const {
 
 void Datenbank::Execute(const QString& anweisung, const QVector<QVariant>& werte) const {
     const Übersetzung ü = v().übersetzung(anweisung);
-    detail::Schritt s(v().anweisung(ü.sql));
-    s.platzhalterBinden(werte);
-    while (s.weiter()) {
+    {
+        detail::Schritt s(v().anweisung(ü.sql));
+        s.platzhalterBinden(werte + ü.werte); // one of the two is empty: see Übersetzung
+        while (s.weiter()) {
+        }
     }
+    if (ändertSchema(ü.sql))
+        v().schemaGeändert();
 }
 
 bool Datenbank::abfrageVorhanden(const QString& name) const {

@@ -1,11 +1,13 @@
 #include "store/Dialekt.h"
 
+#include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace vemo {
 namespace {
 
-enum class Art { Leer, Wort, Zahl, Text, Name, Datum, Zeichen };
+enum class Art { Leer, Wort, Zahl, Text, Name, Datum, Zeichen, Platzhalter };
 
 struct Token {
     Art art;
@@ -331,6 +333,62 @@ bool istEinfacheAuswahl(const std::vector<Token>& t) {
     return true;
 }
 
+// The value a literal stands for, as SQLite reads it: a whole number, a floating one, a text.
+std::optional<QVariant> literalwert(const Token& k) {
+    if (k.art == Art::Text)
+        return QVariant(k.text);
+    if (k.art != Art::Zahl)
+        return std::nullopt;
+    bool ok = false;
+    if (!k.text.contains('.')) {
+        const qlonglong ganz = k.text.toLongLong(&ok);
+        if (ok)
+            return QVariant(ganz);
+    }
+    const double zahl = k.text.toDouble(&ok);
+    return ok ? std::optional<QVariant>(zahl) : std::nullopt;
+}
+
+bool istVergleich(const Token& k) {
+    return k.art == Art::Zeichen && (k.text == "=" || k.text == "<>" || k.text == "<" || k.text == ">" ||
+                                     k.text == "<=" || k.text == ">=");
+}
+
+// Only where a statement can take bound values: reads, changes and deletions, whose placeholders
+// are all this translation's own.
+bool kannWerteBinden(const std::vector<Token>& t, const QStringList& parameter) {
+    if (t.empty() || !parameter.isEmpty() ||
+        !(ist(t[0], "SELECT") || ist(t[0], "UPDATE") || ist(t[0], "DELETE")))
+        return false;
+    return std::none_of(t.begin(), t.end(), [](const Token& k) { return ist(k, "?"); });
+}
+
+// The logic splices keys and codes into its conditions, so that nearly every row of a run has a
+// statement text of its own. A literal compared in a condition becomes a bound value instead:
+// statements that differ only in those values are one prepared statement, and SQLite compares a
+// bound value exactly as the literal it replaces. Literals elsewhere stay: a number in ORDER BY
+// names a column, and the select list names its columns after their text.
+QVector<QVariant> werteBinden(std::vector<Token>& t, const QStringList& parameter) {
+    QVector<QVariant> werte;
+    if (!kannWerteBinden(t, parameter))
+        return werte;
+    bool inBedingung = false;
+    for (size_t i = 0; i < t.size(); ++i) {
+        if (ist(t[i], "WHERE") || ist(t[i], "ON") || ist(t[i], "HAVING"))
+            inBedingung = true;
+        if (!inBedingung || !istVergleich(t[i]))
+            continue;
+        const size_t k = nächstes(t, i + 1);
+        if (k >= t.size())
+            break;
+        if (const auto wert = literalwert(t[k])) {
+            werte << *wert;
+            t[k] = {Art::Platzhalter, "?" + QString::number(werte.size())};
+        }
+    }
+    return werte;
+}
+
 } // namespace
 
 Übersetzung übersetzen(const QString& statement) {
@@ -339,6 +397,7 @@ bool istEinfacheAuswahl(const std::vector<Token>& t) {
     ü.parameter = parameterAbtrennen(t);
     hülleEntfernen(t);
     verkettungUmsetzen(t);
+    ü.werte = werteBinden(t, ü.parameter);
     ü.sql = ausgeben(t, ü.parameter);
     ü.einfacheAuswahl = istEinfacheAuswahl(t);
     if (ü.einfacheAuswahl) {

@@ -25,7 +25,7 @@ struct Spalte {
     int tabellenIndex = -1; // the column of the writable table it comes from
 };
 
-// What the rows of a statement hold: the same for every statement of one column shape.
+// What the rows of a statement hold, noted once for each statement text.
 struct Abfrageform {
     QVector<Spalte> spalten;
     QHash<QString, int> spaltenIndex;
@@ -627,17 +627,6 @@ std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>
     return d;
 }
 
-// What a statement's columns are and where they come from; statements that differ only in the
-// keys spliced into them have the same.
-QString spaltengestalt(sqlite3_stmt* s, int versatz) {
-    QByteArray gestalt = QByteArray::number(versatz);
-    for (int i = versatz; i < sqlite3_column_count(s); ++i)
-        for (const char* teil : {sqlite3_column_name(s, i), sqlite3_column_decltype(s, i),
-                                 sqlite3_column_table_name(s, i), sqlite3_column_origin_name(s, i)})
-            gestalt.append('\x1f').append(teil ? teil : "");
-    return QString::fromUtf8(gestalt);
-}
-
 void spaltenLesen(RecordsetDaten& d, sqlite3_stmt* s, int versatz) {
     const int anzahl = sqlite3_column_count(s);
     QString tabellenName;
@@ -667,7 +656,7 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
     auto d = std::make_shared<RecordsetDaten>();
     d->v = v;
     d->name = name;
-    d->parameter = parameter;
+    d->parameter = parameter + ü.werte; // one of the two is empty: see Übersetzung
     // Held, not borrowed: looking up the table below prepares statements that may push it out of
     // the cache.
     Anweisung s;
@@ -685,15 +674,17 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
         d->abfrage = ü.sql;
     }
     const int versatz = d->mitRowid ? 1 : 0;
-    const QString gestalt = spaltengestalt(s.get(), versatz);
-    if (const auto form = v->abfrageform(gestalt)) {
+    // Another connection may have changed the table since the form was noted: its column count
+    // tells that SQLite prepared the statement anew.
+    const auto form = v->abfrageform(d->abfrage);
+    if (form && form->spalten.size() + versatz == sqlite3_column_count(s.get())) {
         d->spalten = form->spalten;
         d->spaltenIndex = form->spaltenIndex;
         d->tabelle = form->tabelle;
     } else {
         spaltenLesen(*d, s.get(), versatz);
-        v->abfrageformMerken(gestalt, std::make_shared<const Abfrageform>(
-                                          Abfrageform{d->spalten, d->spaltenIndex, d->tabelle}));
+        v->abfrageformMerken(d->abfrage, std::make_shared<const Abfrageform>(
+                                             Abfrageform{d->spalten, d->spaltenIndex, d->tabelle}));
     }
     d->laden();
     return d;

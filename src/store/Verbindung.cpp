@@ -330,12 +330,12 @@ template <typename Wert> void merken(QHash<QString, Wert>& formen, const QString
     return ü;
 }
 
-std::shared_ptr<const Abfrageform> Verbindung::abfrageform(const QString& gestalt) const {
-    return m_abfrageformen.value(gestalt);
+std::shared_ptr<const Abfrageform> Verbindung::abfrageform(const QString& sql) const {
+    return m_abfrageformen.value(sql);
 }
 
-void Verbindung::abfrageformMerken(const QString& gestalt, std::shared_ptr<const Abfrageform> form) {
-    merken(m_abfrageformen, gestalt, std::move(form));
+void Verbindung::abfrageformMerken(const QString& sql, std::shared_ptr<const Abfrageform> form) {
+    merken(m_abfrageformen, sql, std::move(form));
 }
 
 void Verbindung::schemaGeändert() {

@@ -34,8 +34,8 @@ using Anweisung = std::shared_ptr<sqlite3_stmt>;
 // write commits by itself, or with the hold on the write lock it was made under.
 class Verbindung {
 public:
-    // Statements kept prepared. The logic splices keys into its statements, so that a long run
-    // prepares a new text for nearly every row; the least recently used one goes.
+    // Statements kept prepared; the least recently used one goes. The keys the logic splices into
+    // its conditions are bound values after translation, so that a run repeats a few texts.
     static constexpr int AnweisungenImCache = 128;
 
     Verbindung(const QString& pfad, bool anlegen);
@@ -62,11 +62,11 @@ public:
     // A prepared statement of native SQL, kept for reuse. Callers reset it through Schritt.
     Anweisung anweisung(const QString& sql);
     // A statement of the host's dialect translated, kept for the statements that a run repeats,
-    // such as a function name looked up for each value; and what the rows of a SELECT hold, by the
-    // shape of its columns, null where that shape has not been seen yet.
+    // such as a function name looked up for each value; and what the rows of a translated SELECT
+    // hold, null where it has not been read yet.
     Übersetzung übersetzung(const QString& dialekt);
-    std::shared_ptr<const Abfrageform> abfrageform(const QString& gestalt) const;
-    void abfrageformMerken(const QString& gestalt, std::shared_ptr<const Abfrageform> form);
+    std::shared_ptr<const Abfrageform> abfrageform(const QString& sql) const;
+    void abfrageformMerken(const QString& sql, std::shared_ptr<const Abfrageform> form);
     int anweisungenImCache() const { return int(m_anweisungen.size()); }
     // What the store knows of a table; null when there is no such table. Record sets keep their
     // table's description alive, also across a change of the schema.
