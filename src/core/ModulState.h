@@ -8,6 +8,7 @@
 #include "store/Schluessel.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QStringList>
 #include <QVariant>
 #include <functional>
@@ -27,6 +28,13 @@ struct Portpuffer {
     QByteArray bytes;
     qint32 anzahl = 0;
     qint32 letztesHandle = 0;
+};
+
+// What the mapping table 0100_TeilFunktion answered for one function name.
+struct TeilFunktionsantwort {
+    bool fehlt = true; // the table has no such name
+    QString spaltenname;
+    QString einheit;
 };
 
 // The module variables: the state that the dialogs and parsers of the component share. There is
@@ -94,6 +102,10 @@ struct ModulState {
     Portpuffer portpuffer;
     std::shared_ptr<MyComm> gemeinsamerMyComm;
     bool multitesterGefunden = false;
+    // The mapping table's answers while a take-over runs, by function name: every read-in row asks
+    // for the same few names, and the host does not change the table under a run.
+    bool teilFunktionenMerken = false;
+    QHash<QString, TeilFunktionsantwort> teilFunktionen;
     // The serial number of the last Sorelin image read; the read-in rows do not carry it.
     QString sorelinSeriennummer;
 

@@ -208,14 +208,42 @@ bool IstKleiner(const QString& alt, const QString& neu) {
     return klasse(neu) == '<';
 }
 
-bool TeilFunktionSuchen(const QString& name, QString& spaltenname, QString& einheit) {
+namespace {
+TeilFunktionsantwort teilFunktionLesen(const QString& name) {
     // The function name goes into the statement as it stands: an apostrophe in it fails the look-up.
     Recordset rs = db().OpenRecordset("SELECT * FROM 0100_TeilFunktion WHERE TeilFunktion = '" + name + "'");
     if (rs.Eof())
+        return {};
+    return {false, rs.Text("spaltenname"), rs.Text("Einheit")};
+}
+} // namespace
+
+bool TeilFunktionSuchen(const QString& name, QString& spaltenname, QString& einheit) {
+    ModulState& m = modul();
+    TeilFunktionsantwort antwort;
+    if (const auto gemerkt = m.teilFunktionen.constFind(name); gemerkt != m.teilFunktionen.cend()) {
+        antwort = *gemerkt;
+    } else {
+        antwort = teilFunktionLesen(name);
+        if (m.teilFunktionenMerken)
+            m.teilFunktionen.insert(name, antwort);
+    }
+    if (antwort.fehlt)
         return true;
-    spaltenname = rs.Text("spaltenname");
-    einheit = rs.Text("Einheit");
+    spaltenname = antwort.spaltenname;
+    einheit = antwort.einheit;
     return false;
+}
+
+TeilFunktionenMerken::TeilFunktionenMerken() : m_äußeres(!modul().teilFunktionenMerken) {
+    modul().teilFunktionenMerken = true;
+}
+
+TeilFunktionenMerken::~TeilFunktionenMerken() {
+    if (!m_äußeres)
+        return;
+    modul().teilFunktionenMerken = false;
+    modul().teilFunktionen.clear();
 }
 
 Recordset TeilFunktionUKSuchen(const QString& zertifikat, const QString& name) {

@@ -44,6 +44,20 @@ bool IstKleiner(const QString& alt, const QString& neu);
 // then left as they were).
 bool TeilFunktionSuchen(const QString& name, QString& spaltenname, QString& einheit);
 
+// While it lives, TeilFunktionSuchen reads each name from the table once and answers it again from
+// memory: a take-over asks for the same names for every read-in row. A look-up that fails is not
+// kept, and nothing is kept beyond its life.
+class TeilFunktionenMerken {
+public:
+    TeilFunktionenMerken();
+    ~TeilFunktionenMerken();
+    TeilFunktionenMerken(const TeilFunktionenMerken&) = delete;
+    TeilFunktionenMerken& operator=(const TeilFunktionenMerken&) = delete;
+
+private:
+    bool m_äußeres;
+};
+
 Recordset TeilFunktionUKSuchen(const QString& zertifikat, const QString& name);
 
 } // namespace vemo

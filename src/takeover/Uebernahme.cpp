@@ -5,6 +5,7 @@
 #include "core/Schluesselvergabe.h"
 #include "core/Vorbelegung.h"
 #include "grid/EinleseDatenController.h"
+#include "parsers/Primitive.h"
 #include "parsers/PruefgeraetEintragen.h"
 #include "platform/Ui.h"
 #include "store/Datenbank.h"
@@ -295,6 +296,7 @@ void Übernehmen(EinleseDatenController& form) {
         form.setAnzahlZeilen(QString());
         laufschlüssel().prüfungID = 0;
         Lauf lauf(form);
+        const TeilFunktionenMerken zuordnungen;
         // An error ends the run: the rows taken so far are gone from the read-in table, the others stay.
         mitFalle([&] {
             lauf.zeilenÜbernehmen(zeilen);

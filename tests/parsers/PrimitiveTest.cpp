@@ -139,4 +139,31 @@ TEST_F(EinheitTest, FunctionTableLookUp) {
     EXPECT_THROW(TeilFunktionSuchen("it's", spalte, einheit), Fehler);
 }
 
+// Within a take-over the answers are kept, the unknown name's as well; a failed look-up is not, and
+// after the run the table is read again.
+TEST_F(EinheitTest, FunctionTableAnswersAreKeptForOneRunOnly) {
+    sql("INSERT OR REPLACE INTO \"0100_TeilFunktion\" VALUES ('Zs', 'LOOPRS', 'Ohm');");
+    QString spalte, einheit;
+    {
+        const TeilFunktionenMerken lauf;
+        const TeilFunktionenMerken geschachtelt;
+        EXPECT_FALSE(TeilFunktionSuchen("Zs", spalte, einheit));
+        EXPECT_TRUE(TeilFunktionSuchen("Neu", spalte, einheit));
+        sql("UPDATE \"0100_TeilFunktion\" SET spaltenname = 'ZS' WHERE TeilFunktion = 'Zs';"
+            "INSERT INTO \"0100_TeilFunktion\" VALUES ('Neu', 'RISO', 'MOhm');");
+        spalte = einheit = "alt";
+        EXPECT_TRUE(TeilFunktionSuchen("Neu", spalte, einheit));
+        EXPECT_EQ(spalte, "alt");
+        EXPECT_FALSE(TeilFunktionSuchen("Zs", spalte, einheit));
+        EXPECT_EQ(spalte, "LOOPRS");
+        EXPECT_EQ(einheit, "Ohm");
+        EXPECT_THROW(TeilFunktionSuchen("it's", spalte, einheit), Fehler);
+        EXPECT_THROW(TeilFunktionSuchen("it's", spalte, einheit), Fehler);
+    }
+    EXPECT_FALSE(TeilFunktionSuchen("Neu", spalte, einheit));
+    EXPECT_EQ(spalte, "RISO");
+    EXPECT_FALSE(TeilFunktionSuchen("Zs", spalte, einheit));
+    EXPECT_EQ(spalte, "ZS");
+}
+
 } // namespace
