@@ -57,7 +57,8 @@ void GridDurchlauf::Schlüsseländerungen::nullen(const Recordset& zeile, const 
         felder.append({feld, 0});
 }
 
-GridDurchlauf::GridDurchlauf(EinleseGrid& grid, bool englischUK) : m_grid(grid), m_englischUK(englischUK) {}
+GridDurchlauf::GridDurchlauf(EinleseGrid& grid, bool englischUK)
+    : m_grid(grid), m_englischUK(englischUK), m_heute(zahlformat::datumText(QDate::currentDate())) {}
 
 bool GridDurchlauf::durchlaufen(Recordset& einlese, Recordset& abfrage, long ersteZeile, long letzteZeile) {
     m_geräteID = 0;
@@ -183,7 +184,7 @@ QString GridDurchlauf::datumDerNeuenPrüfung(const Recordset& einlese) const {
     const QString datum = einlese.Text("Datum");
     if (datumVertrauenswürdig(m_prüfgerätName) && zahlformat::datum(datum))
         return datum;
-    return zahlformat::datumText(QDate::currentDate());
+    return m_heute;
 }
 
 void GridDurchlauf::messzeitpunkt(const Recordset& einlese, int zeile) {

@@ -61,6 +61,9 @@ private:
     int m_messungZähler = 0;
     bool m_geändert = false;
     bool m_datumGesehen = false;
+    // Today as a new inspection shows it, taken once a pass: asking the clock for the local date
+    // asks the system for its time zone.
+    const QString m_heute;
 };
 
 } // namespace vemo

@@ -1,6 +1,8 @@
 #include "platform/Zahlformat.h"
 
 #include <QRegularExpression>
+#include <QStringList>
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -97,8 +99,42 @@ std::optional<double> zahl(const QString& eingabe) {
     return ok ? std::optional<double>(d) : std::nullopt;
 }
 
+namespace {
+// The length of the number at the start of t: a sign, digits with a point or a point with digits,
+// then an exponent written with e or d. 0 where t starts with no number.
+qsizetype zahlpräfix(const QString& t) {
+    const qsizetype n = t.size();
+    qsizetype i = 0;
+    const auto ziffern = [&] {
+        const qsizetype anfang = i;
+        while (i < n && t[i] >= u'0' && t[i] <= u'9')
+            ++i;
+        return i > anfang;
+    };
+    if (i < n && (t[i] == '+' || t[i] == '-'))
+        ++i;
+    const bool vorDemPunkt = ziffern();
+    const bool punkt = i < n && t[i] == '.';
+    if (punkt)
+        ++i;
+    const bool nachDemPunkt = ziffern();
+    if (!vorDemPunkt && !(punkt && nachDemPunkt))
+        return 0;
+    const qsizetype mantisse = i;
+    if (i < n && QStringLiteral("eEdD").contains(t[i])) {
+        ++i;
+        if (i < n && (t[i] == '+' || t[i] == '-'))
+            ++i;
+        if (!ziffern())
+            return mantisse;
+    }
+    return i;
+}
+} // namespace
+
 double val(const QString& eingabe) {
     QString t;
+    t.reserve(eingabe.size());
     for (const QChar c : eingabe)
         if (c != ' ' && c != '\t')
             t += c;
@@ -108,11 +144,11 @@ double val(const QString& eingabe) {
             ++n;
         return double(t.mid(2, n - 2).toLongLong(nullptr, 16));
     }
-    static const QRegularExpression präfix(R"(^[+-]?(\d+\.?\d*|\.\d+)([eEdD][+-]?\d+)?)");
-    const auto m = präfix.match(t);
-    if (!m.hasMatch())
+    const qsizetype länge = zahlpräfix(t);
+    if (länge == 0)
         return 0;
-    return m.captured(0).replace('d', 'e').replace('D', 'e').toDouble();
+    t.truncate(länge);
+    return t.replace('d', 'e').replace('D', 'e').toDouble();
 }
 
 QString datumText(const QDate& d) {
@@ -126,8 +162,36 @@ QString zeitText(const QTime& t) {
     return t.toString("HH:mm:ss");
 }
 
+namespace {
+// "2022-06-14" and "14.06.2022", the spellings of the store and of the dumps, read by hand: Qt's
+// general parser asks the system for its time zone at every date, which the grid does for every
+// row. Anything else, an impossible date among it, goes the general way.
+std::optional<QDate> häufigesDatum(const QString& tag) {
+    const QStringList teile = tag.split(tag.contains('-') ? '-' : '.');
+    if (teile.size() != 3)
+        return std::nullopt;
+    int zahl[3];
+    for (int i = 0; i < 3; ++i) {
+        const QString& teil = teile[i];
+        if (teil.isEmpty() || teil.size() > 4 ||
+            !std::all_of(teil.begin(), teil.end(), [](QChar c) { return c >= u'0' && c <= u'9'; }))
+            return std::nullopt;
+        zahl[i] = teil.toInt();
+    }
+    const auto breite = [&](int i) { return teile[i].size(); };
+    QDate d;
+    if (tag.contains('-') && breite(0) == 4 && breite(1) == 2 && breite(2) == 2)
+        d = QDate(zahl[0], zahl[1], zahl[2]);
+    else if (!tag.contains('-') && breite(0) <= 2 && breite(1) <= 2 && breite(2) == 4)
+        d = QDate(zahl[2], zahl[1], zahl[0]);
+    return d.isValid() ? std::optional<QDate>(d) : std::nullopt;
+}
+} // namespace
+
 std::optional<QDate> datum(const QString& eingabe) {
     const QString tag = eingabe.trimmed().section(' ', 0, 0);
+    if (const auto d = häufigesDatum(tag))
+        return d;
     for (const char* f : {"yyyy-MM-dd", "d.M.yyyy", "d/M/yyyy", "d.M.yy"}) {
         QDate d = QDate::fromString(tag, f);
         if (d.isValid() && QString(f).endsWith(".yy") && d.year() < 1950)

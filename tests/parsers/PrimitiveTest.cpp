@@ -2,6 +2,8 @@
 #include "platform/Zahlformat.h"
 #include "support/Testumgebung.h"
 
+#include <QRegularExpression>
+
 using namespace vemo;
 
 namespace {
@@ -93,6 +95,79 @@ TEST(Primitive, SmallHelpers) {
     EXPECT_TRUE(IstKleiner("5", "3"));
     EXPECT_TRUE(IstKleiner(">5", "<3"));
     EXPECT_FALSE(IstKleiner("<3", "5"));
+}
+
+// Val reads the number a text begins with, blanks anywhere ignored, as this pattern describes it;
+// the hand-written reader must agree with the pattern on every kind of text.
+TEST(Primitive, ValReadsTheLeadingNumberAsThePatternSays) {
+    const QRegularExpression muster(R"(^[+-]?(\d+\.?\d*|\.\d+)([eEdD][+-]?\d+)?)");
+    const auto erwartet = [&](QString t) {
+        t.remove(' ').remove('\t');
+        const auto m = muster.match(t);
+        return m.hasMatch() ? m.captured(0).replace('d', 'e').replace('D', 'e').toDouble() : 0.0;
+    };
+    const QStringList texte{"",
+                            "0",
+                            "0001",
+                            "12abc",
+                            " 1 2 ",
+                            "-3.5",
+                            "+.5",
+                            ".",
+                            "-.",
+                            "5.",
+                            "1e3",
+                            "1E+3x",
+                            "2d-2",
+                            "2e",
+                            "2e+",
+                            "3.e2",
+                            "e5",
+                            "1.2.3",
+                            "--1",
+                            "0,5",
+                            "\t7",
+                            "abc",
+                            "1٣",
+                            "٣",
+                            "999999999999999999999",
+                            "0100_Messung",
+                            "-0"};
+    for (const QString& t : texte)
+        EXPECT_EQ(zahlformat::val(t), erwartet(t)) << t.toStdString();
+    EXPECT_EQ(zahlformat::val("&H1F"), 31);
+    EXPECT_EQ(zahlformat::val("0001"), 1);
+    EXPECT_EQ(zahlformat::val("2d-2"), 0.02);
+}
+
+// The store's and the dumps' spellings are read by hand; every date reads as Qt's parser reads it,
+// under a German and a British locale.
+TEST_F(Zahlformate, DatesReadAsTheGeneralParserReadsThem) {
+    const auto erwartet = [](const QString& eingabe) -> std::optional<QDate> {
+        const QString tag = eingabe.trimmed().section(' ', 0, 0);
+        for (const char* f : {"yyyy-MM-dd", "d.M.yyyy", "d/M/yyyy", "d.M.yy"}) {
+            QDate d = QDate::fromString(tag, f);
+            if (d.isValid() && QString(f).endsWith(".yy") && d.year() < 1950)
+                d = d.addYears(100);
+            if (d.isValid())
+                return d;
+        }
+        const QDate d = zahlformat::locale().toDate(tag, QLocale::ShortFormat);
+        return d.isValid() ? std::optional<QDate>(d) : std::nullopt;
+    };
+    const QStringList texte{"2022-06-14",  "14.06.2022", "1.6.2022",    " 14.06.2022 10:00:00",
+                            "29.02.2024",  "29.02.2023", "31.04.2022",  "0.6.2022",
+                            "14.13.2022",  "2022-6-14",  "2022-06-1",   "14.06.22",
+                            "14.06.49",    "14.06.0022", "014.06.2022", "14.06.20222",
+                            "14/06/2022",  "-1.6.2022",  "1..2022",     "",
+                            "14.06.2022.", "2022-02-30", "06/14/22"};
+    for (const auto& land :
+         {QLocale(QLocale::German, QLocale::Germany), QLocale(QLocale::English, QLocale::UnitedKingdom)}) {
+        zahlformat::setzen(land);
+        for (const QString& t : texte)
+            EXPECT_EQ(zahlformat::datum(t), erwartet(t)) << t.toStdString();
+    }
+    EXPECT_EQ(zahlformat::datum("14.06.2022"), QDate(2022, 6, 14));
 }
 
 TEST_F(Zahlformate, ValuesTakeTheNormalFormOfTheLocale) {
