@@ -86,8 +86,10 @@ std::vector<Token> zerlegen(const QString& s) {
     return t;
 }
 
+// The words asked for are ASCII: compared as Latin-1, they need no conversion at every token.
 bool ist(const Token& t, const char* wort) {
-    return (t.art == Art::Wort || t.art == Art::Zeichen) && t.text.compare(wort, Qt::CaseInsensitive) == 0;
+    return (t.art == Art::Wort || t.art == Art::Zeichen) &&
+           t.text.compare(QLatin1StringView(wort), Qt::CaseInsensitive) == 0;
 }
 
 // Index of the next token that is not blank, from i on; n when none.

@@ -225,8 +225,7 @@ struct RecordsetDaten {
         assert(v->sperreGehalten());
         assert(pos >= 0 && pos < anzahlGeladen() && !nachLöschen);
         Zeile& z = zeilen[size_t(pos)];
-        Schritt s(v->anweisung("SELECT " + tabelle->zitierteSpalten.join(',') + " FROM " + tabelle->zitiert +
-                               " WHERE rowid = ?1"));
+        Schritt s(v->anweisung(tabelle->zeileLesen));
         s.binden(1, QVariant(qlonglong(z.rowid)));
         if (!s.weiter())
             throw fehler::mit(fehler::DatensatzGelöscht);

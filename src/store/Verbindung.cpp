@@ -294,6 +294,7 @@ std::shared_ptr<const Verbindung::Tabelle> Verbindung::tabelle(const QString& na
         if (!t.berechneteVorgaben[i].startsWith('('))
             t.berechneteVorgaben[i].clear();
     }
+    t.zeileLesen = "SELECT " + t.zitierteSpalten.join(',') + " FROM " + t.zitiert + " WHERE rowid = ?1";
     auto beschreibung = std::make_shared<const Tabelle>(std::move(t));
     m_tabellen.insert(schlüssel, beschreibung);
     return beschreibung;

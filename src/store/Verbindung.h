@@ -52,6 +52,7 @@ public:
         QVector<Typklasse> klassen;
         QVector<QVariant> vorgaben;     // the store's default of each column, evaluated
         QStringList berechneteVorgaben; // expressions such as today's date, evaluated at each new row
+        QString zeileLesen;             // the statement that reads one row again by its rowid, ?1
         int index(const QString& spalte) const;
     };
 
