@@ -148,6 +148,13 @@ double val(const QString& eingabe) {
     if (länge == 0)
         return 0;
     t.truncate(länge);
+    // Codes and keys are short runs of digits: their value is exact without the general reader.
+    if (länge <= 15 && std::all_of(t.begin(), t.end(), [](QChar c) { return c >= u'0' && c <= u'9'; })) {
+        double ganz = 0;
+        for (const QChar c : std::as_const(t))
+            ganz = ganz * 10 + (c.unicode() - u'0');
+        return ganz;
+    }
     return t.replace('d', 'e').replace('D', 'e').toDouble();
 }
 

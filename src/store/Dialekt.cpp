@@ -24,18 +24,21 @@ std::vector<Token> zerlegen(const QString& s) {
     const int n = s.size();
     auto bis = [&](QChar ende, int ab) {
         QString inhalt;
+        int stück = ab; // the start of the text not yet taken
         int k = ab;
         while (k < n) {
             if (s[k] == ende) {
-                if (ende != ']' && k + 1 < n && s[k + 1] == ende) { // doubled quote
-                    inhalt += ende;
+                if (ende != ']' && k + 1 < n && s[k + 1] == ende) { // doubled quote: one stays
+                    inhalt += QStringView(s).mid(stück, k + 1 - stück);
                     k += 2;
+                    stück = k;
                     continue;
                 }
                 break;
             }
-            inhalt += s[k++];
+            ++k;
         }
+        inhalt += QStringView(s).mid(stück, std::min(k, n) - stück);
         i = std::min(k + 1, n);
         return inhalt;
     };

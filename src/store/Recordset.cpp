@@ -96,6 +96,7 @@ struct RecordsetDaten {
         while (s.weiter()) {
             Zeile z;
             z.rowid = s.wert(0).toLongLong();
+            z.werte.reserve(spalten.size());
             for (int i = 0; i < spalten.size(); ++i)
                 z.werte << s.wert(i + 1, spalten[i].klasse);
             z.marke = markeFür(z.rowid);
@@ -122,6 +123,7 @@ struct RecordsetDaten {
         while (s.weiter()) {
             Zeile z;
             z.rowid = mitRowid ? s.wert(0).toLongLong() : 0;
+            z.werte.reserve(spalten.size());
             for (int i = 0; i < spalten.size(); ++i)
                 z.werte << s.wert(i + versatz, spalten[i].klasse);
             z.marke = nächsteMarke++;

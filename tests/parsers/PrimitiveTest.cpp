@@ -106,33 +106,12 @@ TEST(Primitive, ValReadsTheLeadingNumberAsThePatternSays) {
         const auto m = muster.match(t);
         return m.hasMatch() ? m.captured(0).replace('d', 'e').replace('D', 'e').toDouble() : 0.0;
     };
-    const QStringList texte{"",
-                            "0",
-                            "0001",
-                            "12abc",
-                            " 1 2 ",
-                            "-3.5",
-                            "+.5",
-                            ".",
-                            "-.",
-                            "5.",
-                            "1e3",
-                            "1E+3x",
-                            "2d-2",
-                            "2e",
-                            "2e+",
-                            "3.e2",
-                            "e5",
-                            "1.2.3",
-                            "--1",
-                            "0,5",
-                            "\t7",
-                            "abc",
-                            "1٣",
-                            "٣",
-                            "999999999999999999999",
-                            "0100_Messung",
-                            "-0"};
+    // Separated by "|", the empty text among them.
+    const QStringList texte =
+        QString("0|0001|12abc| 1 2 "
+                "|-3.5|+.5|.|-.|5.|1e3|1E+3x|2d-2|2e|2e+|3.e2|e5|1.2.3|--1|0,5|\t7|abc|1٣|٣|"
+                "999999999999999999999|123456789012345|1234567890123456|+12|-0012|0100_Messung|-0|")
+            .split('|');
     for (const QString& t : texte)
         EXPECT_EQ(zahlformat::val(t), erwartet(t)) << t.toStdString();
     EXPECT_EQ(zahlformat::val("&H1F"), 31);

@@ -20,6 +20,9 @@ protected:
 TEST(Dialekt, TranslatesNamesStringsAndWrappers) {
     EXPECT_EQ(übersetzen("SELECT \"it's\" AS [a b] FROM 0100_Messung").sql,
               "SELECT 'it''s' AS \"a b\" FROM \"0100_Messung\"");
+    EXPECT_EQ(übersetzen("SELECT 'a''b', \"c\"\"d\", '' FROM [x]]").sql,
+              "SELECT 'a''b', 'c\"d', '' FROM \"x\"]");
+    EXPECT_EQ(übersetzen("SELECT 'offen").sql, "SELECT 'offen'");
     EXPECT_EQ(übersetzen("DELETE * FROM 0100_EinleseGeräteDaten").sql,
               "DELETE FROM \"0100_EinleseGeräteDaten\"");
     EXPECT_EQ(übersetzen("(SELECT a FROM t ORDER BY a;)").sql, "SELECT a FROM t ORDER BY a");
