@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Runs a benchmark program several times and prints, for each benchmark, the least wall and CPU
-time of the repetitions, and the ratios of the pairs asked for.
+time of the repetitions.
 
 The build machine is shared: other jobs slow a run now and then by a third or more, never speed it
 up. The least of several repetitions is the figure least disturbed; the ratio of two such figures

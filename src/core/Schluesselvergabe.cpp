@@ -23,21 +23,18 @@ qint32 NeueID(const QString& tabelle, const QString& quelle) {
 
 QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
     static const QMap<QString, QString> anweisungen{
-        {"Anlage", "SELECT Val(Code) AS Wert FROM 0100_ANLAGE WHERE KundeID = "},
-        {"Verteiler", "SELECT Val(Code) AS Wert FROM 0100_Verteiler WHERE PrüfungID = "},
-        {"Stromkreis", "SELECT Val(Code) AS Wert FROM 0100_Stromkreis WHERE VerteilerID = "},
+        {"Anlage", "SELECT Code FROM 0100_ANLAGE WHERE KundeID = "},
+        {"Verteiler", "SELECT Code FROM 0100_Verteiler WHERE PrüfungID = "},
+        {"Stromkreis", "SELECT Code FROM 0100_Stromkreis WHERE VerteilerID = "},
     };
     if (!anweisungen.contains(art))
         throw Fehler(91, "Objektvariable oder With-Blockvariable nicht festgelegt");
-    // The codes in their order as texts, each as the number Val reads from it. A code that reads as
-    // 0, or as 999 and more, never moves the count: the store leaves those out, so that a new board
-    // among hundreds reads only the codes that can matter.
-    Recordset rs = db().OpenRecordset(anweisungen[art] + text(elternSchlüssel) +
-                                      " AND Val(Code) <> 0 AND Val(Code) < 999 GROUP BY Code ORDER BY Code");
+    Recordset rs =
+        db().OpenRecordset(anweisungen[art] + text(elternSchlüssel) + " GROUP BY Code ORDER BY Code");
     int i = 1;
     for (; !rs.Eof(); rs.MoveNext()) {
-        const double v = rs.Field(0).toDouble();
-        if (v <= i) {
+        const double v = zahlformat::val(rs.Text("Code"));
+        if (v != 0 && v <= i) {
             if (v < i)
                 break;
             ++i; // the code equals i: it is taken
@@ -45,6 +42,8 @@ QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
         if (i == 999)
             return {};
     }
+    if (i == 999)
+        return {};
     return QString("00" + QString::number(i)).right(3);
 }
 

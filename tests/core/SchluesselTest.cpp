@@ -1,12 +1,8 @@
 #include "core/Schluesselvergabe.h"
 #include "core/Vorbelegung.h"
-#include "platform/Zahlformat.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 #include "support/Testumgebung.h"
-
-#include <QRandomGenerator>
-#include <algorithm>
 
 using namespace vemo;
 
@@ -50,47 +46,6 @@ TEST_F(SchluesselTest, CodesFillTheFirstGap) {
         "-3) FROM n;");
     EXPECT_EQ(NeuerCode("Stromkreis", 9), "");
     EXPECT_THROW(NeuerCode("Kunde", 1), Fehler);
-}
-
-// The codes of a parent as the first gap reads them: every code in text order, the climb ending
-// at the first code that reads below the count.
-QString ersteLückeVonHand(QStringList codes) {
-    codes.removeDuplicates();
-    std::sort(codes.begin(), codes.end(),
-              [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
-    int i = 1;
-    for (const QString& code : std::as_const(codes)) {
-        const double v = zahlformat::val(code);
-        if (v != 0 && v <= i) {
-            if (v < i)
-                break;
-            ++i;
-        }
-        if (i == 999)
-            return {};
-    }
-    return QString("00" + QString::number(i)).right(3);
-}
-
-// Whatever the codes of the boards, odd ones among them, the store's reading finds the code the
-// whole climb finds.
-TEST_F(SchluesselTest, CodesAmongOddOnesFillTheFirstGapAsTheWholeClimbDoes) {
-    const QStringList sorten{"1",   "2",   "3",   "002",  "0003", "4",  "10", "-1", "0",   "abc", "1.5",
-                             "1e2", "998", "999", "1000", " 5",   "5x", "",   "A1", "0,5", "7",   "6"};
-    QRandomGenerator zufall(4711);
-    for (int verteiler = 1; verteiler <= 200; ++verteiler) {
-        QStringList codes;
-        const int anzahl = int(zufall.bounded(12));
-        for (int k = 0; k < anzahl; ++k) {
-            // Mostly a plain run of numbers, now and then an odd code among them.
-            codes << (zufall.bounded(3) ? QString::number(k + 1).rightJustified(3, '0')
-                                        : sorten[int(zufall.bounded(sorten.size()))]);
-            ausführen("INSERT INTO 0100_Verteiler (VerteilerID, PrüfungID, Code) VALUES (?, ?, ?)",
-                      {verteiler * 100 + k, 5000 + verteiler, codes.last()});
-        }
-        EXPECT_EQ(NeuerCode("Verteiler", 5000 + verteiler), ersteLückeVonHand(codes))
-            << codes.join('|').toStdString();
-    }
 }
 
 TEST_F(SchluesselTest, ReportNumbersHaveAtLeastEightDigits) {
