@@ -89,10 +89,12 @@ std::vector<Token> zerlegen(const QString& s) {
     return t;
 }
 
-// The words asked for are ASCII: compared as Latin-1, they need no conversion at every token.
+// The words asked for are ASCII: compared as Latin-1, they need no conversion at every token, and
+// most tokens differ in length already.
 bool ist(const Token& t, const char* wort) {
-    return (t.art == Art::Wort || t.art == Art::Zeichen) &&
-           t.text.compare(QLatin1StringView(wort), Qt::CaseInsensitive) == 0;
+    const QLatin1StringView w(wort);
+    return (t.art == Art::Wort || t.art == Art::Zeichen) && t.text.size() == w.size() &&
+           t.text.compare(w, Qt::CaseInsensitive) == 0;
 }
 
 // Index of the next token that is not blank, from i on; n when none.
@@ -251,6 +253,7 @@ int parameterIndex(const QStringList& parameter, const QString& name) {
 
 QString ausgeben(const std::vector<Token>& t, const QStringList& parameter) {
     QString out;
+    out.reserve(qsizetype(t.size()) * 8);
     for (size_t i = 0; i < t.size(); ++i) {
         const Token& k = t[i];
         switch (k.art) {
