@@ -53,8 +53,8 @@ TEST_F(AnweisungsCacheTest, RecordSetsOutliveTheirStatementsInTheCache) {
 }
 
 // Statements that differ only in the key spliced into their condition are one prepared statement.
-// A column added meanwhile, by this connection or by another, is in the next set opened on the
-// same text.
+// A column added meanwhile, by a statement or by a script, is in the next set opened on the same
+// text.
 TEST_F(AnweisungsCacheTest, SplicedKeysShareOneStatementThatFollowsTheSchema) {
     sql("INSERT INTO Kunde (KundeID, Name) VALUES (1, 'A'), (2, 'B'), (3, 'C');");
     detail::Verbindung v(m_dbPfad, false);
