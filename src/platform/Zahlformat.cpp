@@ -133,11 +133,9 @@ qsizetype zahlpräfix(const QString& t) {
 } // namespace
 
 double val(const QString& eingabe) {
-    QString t;
-    t.reserve(eingabe.size());
-    for (const QChar c : eingabe)
-        if (c != ' ' && c != '\t')
-            t += c;
+    QString t = eingabe; // shared, not copied, unless it has blanks to drop
+    if (t.contains(' ') || t.contains('\t'))
+        t.remove(' ').remove('\t');
     if (t.startsWith("&H", Qt::CaseInsensitive)) {
         int n = 2;
         while (n < t.size() && std::isxdigit(t[n].toLatin1()))
@@ -147,14 +145,16 @@ double val(const QString& eingabe) {
     const qsizetype länge = zahlpräfix(t);
     if (länge == 0)
         return 0;
-    t.truncate(länge);
     // Codes and keys are short runs of digits: their value is exact without the general reader.
-    if (länge <= 15 && std::all_of(t.begin(), t.end(), [](QChar c) { return c >= u'0' && c <= u'9'; })) {
+    const QStringView zahl = QStringView(t).left(länge);
+    if (länge <= 15 &&
+        std::all_of(zahl.begin(), zahl.end(), [](QChar c) { return c >= u'0' && c <= u'9'; })) {
         double ganz = 0;
-        for (const QChar c : std::as_const(t))
+        for (const QChar c : zahl)
             ganz = ganz * 10 + (c.unicode() - u'0');
         return ganz;
     }
+    t.truncate(länge);
     return t.replace('d', 'e').replace('D', 'e').toDouble();
 }
 
