@@ -29,11 +29,12 @@ QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
     };
     if (!anweisungen.contains(art))
         throw Fehler(91, "Objektvariable oder With-Blockvariable nicht festgelegt");
-    Recordset rs =
-        db().OpenRecordset(anweisungen[art] + text(elternSchlüssel) + " GROUP BY Code ORDER BY Code");
+    // A new board among hundreds reads the code of each: as a plain list, not as record set rows.
+    const QStringList codes =
+        db().ersteSpalte(anweisungen[art] + text(elternSchlüssel) + " GROUP BY Code ORDER BY Code");
     int i = 1;
-    for (; !rs.Eof(); rs.MoveNext()) {
-        const double v = zahlformat::val(rs.Text("Code"));
+    for (const QString& code : codes) {
+        const double v = zahlformat::val(code);
         if (v != 0 && v <= i) {
             if (v < i)
                 break;

@@ -100,6 +100,16 @@ void Datenbank::Execute(const QString& anweisung, const QVector<QVariant>& werte
         v().schemaGeändert();
 }
 
+QStringList Datenbank::ersteSpalte(const QString& anweisung) const {
+    const Übersetzung ü = v().übersetzung(anweisung);
+    detail::Schritt s(v().anweisung(ü.sql));
+    s.platzhalterBinden(ü.werte);
+    QStringList texte;
+    while (s.weiter())
+        texte << text(s.wert(0));
+    return texte;
+}
+
 bool Datenbank::abfrageVorhanden(const QString& name) const {
     if (!hatTabelle(AbfragenTabelle))
         return false;

@@ -56,6 +56,9 @@ public:
     // are never read as part of the statement. A placeholder without a value raises 3061.
     Recordset OpenRecordset(const QString& anweisung, const QVector<QVariant>& werte) const;
     void Execute(const QString& anweisung, const QVector<QVariant>& werte) const;
+    // The first column of every row of a SELECT, as texts (a Null as ""): a long list of codes read
+    // in one go, without the rows of a record set.
+    QStringList ersteSpalte(const QString& anweisung) const;
     void TableDefs(const QString& name) const; // raises 3078 when there is no such table
     bool hatTabelle(const QString& name) const;
     bool abfrageVorhanden(const QString& name) const;

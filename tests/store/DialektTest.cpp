@@ -1,4 +1,5 @@
 #include "store/Dialekt.h"
+#include "platform/Fehler.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 #include "support/Testumgebung.h"
@@ -122,6 +123,19 @@ TEST_F(DialektTest, StatementsOfTheComponentRun) {
 
     db().Execute("DELETE * FROM 0100_EinleseDaten");
     EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+}
+
+// A list of codes read in one go: in the statement's order, a Null as an empty text, a number as
+// the system writes it.
+TEST_F(DialektTest, TheFirstColumnAsTexts) {
+    sql("INSERT INTO \"0100_Verteiler\" (VerteilerID, \"PrüfungID\", Code) VALUES (911, 9, '002'), "
+        "(912, 9, NULL), (913, 9, 'a'), (914, 10, '001');");
+    EXPECT_EQ(
+        db().ersteSpalte("SELECT Code FROM 0100_Verteiler WHERE PrüfungID = 9 GROUP BY Code ORDER BY Code"),
+        (QStringList{"", "002", "a"}));
+    EXPECT_EQ(db().ersteSpalte("SELECT VerteilerID * 10 FROM 0100_Verteiler WHERE PrüfungID = 10"),
+              QStringList{"9140"});
+    EXPECT_THROW(db().ersteSpalte("SELECT Code FROM KeineTabelle"), Fehler);
 }
 
 // A bound value is compared as the literal it replaces: with the column's affinity and collation, a
