@@ -10,7 +10,11 @@
 
 namespace vemo {
 
-void NeueZeileVorbelegen(const QString& art, Recordset& rs, const QVariant& eltern) {
+void NeueZeileVorbelegen(const QString& art, Recordset& rs, const QVariant& eltern, Vorgabecode code) {
+    const auto ersterCode = [&](const QVariant& elternSchlüssel) {
+        if (code == Vorgabecode::Erster)
+            rs.setField("Code", NeuerCode(art, elternSchlüssel));
+    };
     const auto leer = [&rs](std::initializer_list<const char*> felder) {
         for (const char* f : felder)
             rs.setField(f, QString());
@@ -24,7 +28,7 @@ void NeueZeileVorbelegen(const QString& art, Recordset& rs, const QVariant& elte
     } else if (art == "Anlage") {
         rs.setField("Name", "xxxxx");
         rs.setField("KundeID", eltern);
-        rs.setField("Code", NeuerCode("Anlage", eltern));
+        ersterCode(eltern);
         leer({"Nr", "Strasse", "Plz", "Stadt", "Kontakt", "Tel", "Fax", "email", "Anlagenplaner",
               "Bemerkung"});
         rs.setField("NächstePrüfung", heute);
@@ -60,14 +64,14 @@ void NeueZeileVorbelegen(const QString& art, Recordset& rs, const QVariant& elte
         rs.setField("Name", "xxxxx");
         if (!istNull(eltern))
             rs.setField("PrüfungID", eltern);
-        rs.setField("Code", NeuerCode("Verteiler", rs.Field("PrüfungID")));
+        ersterCode(rs.Field("PrüfungID"));
         leer({"Nr"});
     } else if (art == "Stromkreis") {
         rs.setField("Name", "xxxxx");
         if (!istNull(eltern))
             rs.setField("VerteilerID", eltern);
         rs.setField("StromkreistypID", 0);
-        rs.setField("Code", NeuerCode("Stromkreis", rs.Field("VerteilerID")));
+        ersterCode(rs.Field("VerteilerID"));
         leer({"Nr"});
         rs.setField("KabelTypID", 0);
         rs.setField("SicherungsTypID", 0);

@@ -84,7 +84,7 @@ void Lauf::anlage(const Recordset& z) {
         m_anlage.AddNew();
         const qint32 neu = NeueID("", m_anlage.Name());
         m_anlage.setField("AnlageID", neu);
-        NeueZeileVorbelegen("Anlage", m_anlage, z.Field("KundeID"));
+        NeueZeileVorbelegen("Anlage", m_anlage, z.Field("KundeID"), Vorgabecode::VomAufrufer);
         m_anlage.setField("Code", z.Text("AnlageNr"));
         m_anlage.setField("KundeID", z.Field("KundeID"));
         m_anlage.setField("Nr", QString()); // a plant made by the run has only its code
@@ -169,7 +169,7 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
         m_verteiler.AddNew();
         const qint32 neu = NeueID("", m_verteiler.Name());
         m_verteiler.setField("VerteilerID", neu);
-        NeueZeileVorbelegen("Verteiler", m_verteiler, m_schlüssel.prüfungID);
+        NeueZeileVorbelegen("Verteiler", m_verteiler, m_schlüssel.prüfungID, Vorgabecode::VomAufrufer);
         m_schlüssel.verteilerID = neu;
         m_verteiler.setField("PrüfungID", m_schlüssel.prüfungID);
         m_verteiler.setField("Name", QString());
@@ -196,7 +196,7 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
     m_stromkreis.AddNew();
     const qint32 neu = NeueID("", m_stromkreis.Name());
     m_stromkreis.setField("StromkreisID", neu);
-    NeueZeileVorbelegen("Stromkreis", m_stromkreis, m_schlüssel.verteilerID);
+    NeueZeileVorbelegen("Stromkreis", m_stromkreis, m_schlüssel.verteilerID, Vorgabecode::VomAufrufer);
     m_schlüssel.stromkreisID = neu;
     m_stromkreis.setField("VerteilerID", m_schlüssel.verteilerID);
     m_stromkreis.setField("Name", QString());
