@@ -100,6 +100,11 @@ std::optional<double> zahl(const QString& eingabe) {
 }
 
 namespace {
+// Only ASCII digits make a number, as in the pattern Val has always read by.
+bool istZiffer(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+
 // The length of the number at the start of t: a sign, digits with a point or a point with digits,
 // then an exponent written with e or d. 0 where t starts with no number.
 qsizetype zahlpräfix(const QString& t) {
@@ -107,7 +112,7 @@ qsizetype zahlpräfix(const QString& t) {
     qsizetype i = 0;
     const auto ziffern = [&] {
         const qsizetype anfang = i;
-        while (i < n && t[i] >= u'0' && t[i] <= u'9')
+        while (i < n && istZiffer(t[i]))
             ++i;
         return i > anfang;
     };
@@ -147,8 +152,7 @@ double val(const QString& eingabe) {
         return 0;
     // Codes and keys are short runs of digits: their value is exact without the general reader.
     const QStringView zahl = QStringView(t).left(länge);
-    if (länge <= 15 &&
-        std::all_of(zahl.begin(), zahl.end(), [](QChar c) { return c >= u'0' && c <= u'9'; })) {
+    if (länge <= 15 && std::all_of(zahl.begin(), zahl.end(), istZiffer)) {
         double ganz = 0;
         for (const QChar c : zahl)
             ganz = ganz * 10 + (c.unicode() - u'0');
@@ -174,22 +178,22 @@ namespace {
 // general parser asks the system for its time zone at every date, which the grid does for every
 // row. Anything else, an impossible date among it, goes the general way.
 std::optional<QDate> häufigesDatum(const QString& tag) {
-    const QStringList teile = tag.split(tag.contains('-') ? '-' : '.');
+    const bool iso = tag.contains('-');
+    const QStringList teile = tag.split(iso ? '-' : '.');
     if (teile.size() != 3)
         return std::nullopt;
     int zahl[3];
     for (int i = 0; i < 3; ++i) {
         const QString& teil = teile[i];
-        if (teil.isEmpty() || teil.size() > 4 ||
-            !std::all_of(teil.begin(), teil.end(), [](QChar c) { return c >= u'0' && c <= u'9'; }))
+        if (teil.isEmpty() || teil.size() > 4 || !std::all_of(teil.begin(), teil.end(), istZiffer))
             return std::nullopt;
         zahl[i] = teil.toInt();
     }
     const auto breite = [&](int i) { return teile[i].size(); };
     QDate d;
-    if (tag.contains('-') && breite(0) == 4 && breite(1) == 2 && breite(2) == 2)
+    if (iso && breite(0) == 4 && breite(1) == 2 && breite(2) == 2)
         d = QDate(zahl[0], zahl[1], zahl[2]);
-    else if (!tag.contains('-') && breite(0) <= 2 && breite(1) <= 2 && breite(2) == 4)
+    else if (!iso && breite(0) <= 2 && breite(1) <= 2 && breite(2) == 4)
         d = QDate(zahl[2], zahl[1], zahl[0]);
     return d.isValid() ? std::optional<QDate>(d) : std::nullopt;
 }
