@@ -250,6 +250,9 @@ CREATE TABLE "0100_EinleseDaten" (
   StromkreisID INTEGER DEFAULT 0
 );
 CREATE INDEX EinleseDaten_GeraeteID ON "0100_EinleseDaten" ("GeräteID");
+-- The take-over gives a board or circuit it makes to the read-in rows still waiting for it.
+CREATE INDEX EinleseDaten_Verteiler ON "0100_EinleseDaten" ("PrüfungID", VerteilerNr);
+CREATE INDEX EinleseDaten_Stromkreis ON "0100_EinleseDaten" (VerteilerID, StromkreisNr);
 
 CREATE TABLE "0100_EinleseMessDaten" (
   MessungID INTEGER,

@@ -1,6 +1,7 @@
 #include "core/ModulState.h"
 
 #include "platform/Ui.h"
+#include "store/Transaktion.h"
 
 #include <memory>
 
@@ -63,6 +64,20 @@ bool mitFalle(const std::function<void()>& routine) {
         fehlerZeigen(Fehler(51, QString("Interner Fehler: ") + e.what()));
     } catch (...) {
         fehlerZeigen(Fehler(51, "Interner Fehler"));
+    }
+    return false;
+}
+
+bool mitSchrittfalle(const std::function<void()>& routine) {
+    try {
+        routine();
+        return true;
+    } catch (const Fehler& f) {
+        if (istSpeicherausfall(f))
+            throw;
+        fehlerZeigen(f);
+    } catch (const std::exception& e) {
+        fehlerZeigen(Fehler(51, QString("Interner Fehler: ") + e.what()));
     }
     return false;
 }

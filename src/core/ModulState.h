@@ -130,5 +130,9 @@ void fehlerZeigen(const Fehler& f);
 
 // Runs a routine under the standard trap; false when it ended in an error that was shown.
 bool mitFalle(const std::function<void()>& routine);
+// The standard trap of a step inside a larger unit (a read-in, a take-over row): it shows the
+// step's own faults, while a failure of the store itself goes on to the unit's trap, which ends
+// the unit instead of letting it go on with half its writes.
+bool mitSchrittfalle(const std::function<void()>& routine);
 
 } // namespace vemo

@@ -17,7 +17,7 @@ qint32 NeueID(const QString& tabelle, const QString& quelle) {
     }
     const QString name = quelle.isEmpty() ? tabelle : tabelleAusQuelle(quelle);
     qint32 ergebnis = 0;
-    mitFalle([&] { ergebnis = vergabe.nächsterSchlüssel(db(), modul().vmxReplicaID, name); });
+    mitSchrittfalle([&] { ergebnis = vergabe.nächsterSchlüssel(db(), modul().vmxReplicaID, name); });
     return ergebnis;
 }
 
@@ -50,7 +50,7 @@ QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
 
 QString NächsteProtokollNr() {
     QString nummer;
-    mitFalle([&] {
+    mitSchrittfalle([&] {
         Recordset rs =
             db().OpenRecordset("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;");
         const QVariant max = rs.Eof() ? QVariant() : rs.Field("proMax");

@@ -24,6 +24,15 @@ bool schonEingetragen(const Recordset& prüfung, const QVariant& prüfgerätID) 
     return false;
 }
 
+// An instrument the register does not know is named by its text with the key 0.
+bool schonGenannt(const Recordset& prüfung, const QString& name) {
+    for (int i = 1; i <= 4; ++i)
+        if (gleich(prüfung.Field(QString("Prüfgerät%1ID").arg(i)), 0) &&
+            prüfung.Text(QString("PrüfgerätName%1").arg(i)) == name)
+            return true;
+    return false;
+}
+
 void platzBeschreiben(Recordset& prüfung, int platz, const QString& name, const QVariant& id) {
     prüfung.Edit();
     prüfung.setField(QString("PrüfgerätName%1").arg(platz), name);
@@ -43,7 +52,7 @@ bool datumVertraut(const QString& prüfgerätName) {
 } // namespace
 
 void PrüfgerätEintragen(const QVariant& geräteID, Recordset& prüfung, const Recordset& einlesezeile) {
-    mitFalle([&] {
+    mitSchrittfalle([&] {
         const int platz = freierPlatz(prüfung);
         if (platz == 0)
             return;
@@ -63,8 +72,12 @@ void PrüfgerätEintragen(const QVariant& geräteID, Recordset& prüfung, const 
                 name += " " + xText("Inv. Nr.:") + " " + register_.Text("Inventarnummer");
             platzBeschreiben(prüfung, platz, name, id);
         } else {
-            platzBeschreiben(prüfung, platz, gerät.Text("PrüfgerätName") + serNr + gerät.Text("Seriennummer"),
-                             0);
+            // Named once, like a registered one: a take-over that resumes after an interruption
+            // enters the instrument of its inspection again.
+            const QString name = gerät.Text("PrüfgerätName") + serNr + gerät.Text("Seriennummer");
+            if (schonGenannt(prüfung, name))
+                return;
+            platzBeschreiben(prüfung, platz, name, 0);
         }
         if (datumVertraut(gerät.Text("PrüfgerätName")) && istNull(prüfung.Field("Datum"))) {
             prüfung.Edit();

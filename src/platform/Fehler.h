@@ -48,6 +48,7 @@ constexpr int SyntaxFehler = 3075;
 constexpr int TabelleNichtGefunden = 3078;
 constexpr int DatensatzGelöscht = 3167;
 constexpr int Gesperrt = 3260;
+constexpr int UnbekanntesDatenbankformat = 3343;
 constexpr int ElementNichtGefunden = 3265;
 constexpr int PortUngültig = 8002;
 constexpr int PortBereitsGeöffnet = 8005;

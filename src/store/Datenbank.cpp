@@ -51,6 +51,11 @@ detail::Verbindung& Datenbank::v() const {
     return *m_v;
 }
 
+std::shared_ptr<detail::Verbindung> Datenbank::verbindung() const {
+    v();
+    return m_v;
+}
+
 QString Datenbank::Name() const {
     return v().pfad();
 }
@@ -60,6 +65,10 @@ void Datenbank::Close() {
 
 qint64 Datenbank::commits() const {
     return v().commits();
+}
+
+qint64 Datenbank::änderungen() const {
+    return sqlite3_total_changes64(v().db());
 }
 
 void Datenbank::setWartezeit(std::chrono::milliseconds wartezeit) const {
@@ -101,9 +110,13 @@ void Datenbank::Execute(const QString& anweisung, const QVector<QVariant>& werte
 }
 
 QStringList Datenbank::ersteSpalte(const QString& anweisung) const {
+    return ersteSpalte(anweisung, {});
+}
+
+QStringList Datenbank::ersteSpalte(const QString& anweisung, const QVector<QVariant>& werte) const {
     const Übersetzung ü = v().übersetzung(anweisung);
     detail::Schritt s(v().anweisung(ü.sql));
-    s.platzhalterBinden(ü.werte);
+    s.platzhalterBinden(werte + ü.werte); // one of the two is empty: see Übersetzung
     QStringList texte;
     while (s.weiter())
         texte << text(s.wert(0));

@@ -49,6 +49,8 @@ public:
     // The transactions written through this connection, each Update's own among them: what a run
     // must at least cost is what its commits cost.
     qint64 commits() const;
+    // The rows written through this connection (added, changed, deleted), those of triggers besides.
+    qint64 änderungen() const;
 
     Recordset OpenRecordset(const QString& quelle) const;
     void Execute(const QString& anweisung) const;
@@ -59,6 +61,7 @@ public:
     // The first column of every row of a SELECT, as texts (a Null as ""): a long list of codes read
     // in one go, without the rows of a record set.
     QStringList ersteSpalte(const QString& anweisung) const;
+    QStringList ersteSpalte(const QString& anweisung, const QVector<QVariant>& werte) const;
     void TableDefs(const QString& name) const; // raises 3078 when there is no such table
     bool hatTabelle(const QString& name) const;
     bool abfrageVorhanden(const QString& name) const;
@@ -70,7 +73,9 @@ public:
     void abfrageSpeichern(const QString& name, const QString& text) const;
 
 private:
+    friend class Transaktion;
     detail::Verbindung& v() const;
+    std::shared_ptr<detail::Verbindung> verbindung() const; // raises 91 when the database is closed
     std::shared_ptr<detail::Verbindung> m_v;
 };
 

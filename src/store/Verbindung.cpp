@@ -159,7 +159,10 @@ void sqliteFehler(sqlite3* db, int rc, const QString& sql) {
         throw fehler::mit(fehler::Gesperrt, text);
     if (basis == SQLITE_CONSTRAINT)
         throw fehler::mit(fehler::DoppelterSchlüssel, text);
-    if (basis == SQLITE_CANTOPEN || basis == SQLITE_NOTADB)
+    if (basis == SQLITE_NOTADB)
+        throw Fehler(fehler::UnbekanntesDatenbankformat,
+                     "Unbekanntes Datenbankformat '" + utf8(sqlite3_db_filename(db, "main")) + "'.");
+    if (basis == SQLITE_CANTOPEN)
         throw fehler::mit(fehler::DatenbankNichtGefunden, text);
     if (basis == SQLITE_ERROR || basis == SQLITE_RANGE)
         throw fehler::mit(fehler::SyntaxFehler, text + ": " + sql);
@@ -176,6 +179,10 @@ int Verbindung::Tabelle::index(const QString& spalte) const {
 Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
     if (!anlegen && !QFileInfo::exists(pfad))
         throw fehler::mit(fehler::DatenbankNichtGefunden, pfad);
+    // SQLite takes an empty file for an empty database and would make it one at the first write;
+    // a file picked by mistake stays as it was.
+    if (!anlegen && QFileInfo(pfad).isFile() && QFileInfo(pfad).size() == 0)
+        throw Fehler(fehler::UnbekanntesDatenbankformat, "Unbekanntes Datenbankformat '" + pfad + "'.");
     const int flags = SQLITE_OPEN_READWRITE | (anlegen ? SQLITE_OPEN_CREATE : 0);
     const int rc = sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, flags, nullptr);
     if (rc != SQLITE_OK) {
@@ -370,10 +377,11 @@ void Verbindung::beginnen() {
 }
 
 // Ends the transaction with a commit, or, when that fails, with a rollback, so that the connection
-// is never left inside a transaction. SQLite may have rolled back already after an error.
+// is never left inside a transaction. SQLite may have rolled back already after an error (a full
+// disk, an I/O error): then what the holders wrote is gone, and the commit must not pretend.
 int Verbindung::beenden() noexcept {
     if (sqlite3_get_autocommit(m_db))
-        return SQLITE_OK;
+        return SQLITE_ABORT;
     const int rc = sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
     if (rc != SQLITE_OK)
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
@@ -390,7 +398,9 @@ void Verbindung::sperreAbgeben() {
     assert(m_sperren > 0);
     if (--m_sperren > 0)
         return;
-    if (const int rc = beenden(); rc != SQLITE_OK)
+    if (const int rc = beenden(); rc == SQLITE_ABORT)
+        throw Fehler(3000 + SQLITE_ABORT, "Die Änderungen wurden nach einem Fehler des Speichers verworfen");
+    else if (rc != SQLITE_OK)
         sqliteFehler(m_db, rc, "COMMIT");
 }
 
@@ -398,6 +408,15 @@ void Verbindung::sperreLösen() noexcept {
     assert(m_sperren > 0);
     if (--m_sperren == 0)
         beenden();
+}
+
+// The holds of record sets that an error left inside the unit are given back later; they find the
+// transaction ended and commit nothing.
+void Verbindung::sperreVerwerfen() noexcept {
+    assert(m_sperren > 0);
+    --m_sperren;
+    if (!sqlite3_get_autocommit(m_db))
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 Schreibsperre::Schreibsperre(Verbindung& v) : m_v(&v) {

@@ -78,11 +78,14 @@ public:
 
     // The database's write lock, as the host's pessimistic locking takes it for a row being
     // changed or added. Holds on one connection nest and share one short transaction, which ends
-    // with the last release, always by a commit: whatever a holder wrote in between stands, as
-    // every Update must. sperreAbgeben raises when that commit fails; sperreLösen does not.
+    // with the last release, by a commit: whatever a holder wrote in between stands, as every
+    // Update must. sperreAbgeben raises when that commit fails; sperreLösen does not. A unit of
+    // work that must stand or fall whole gives its hold back with sperreVerwerfen, which rolls
+    // the transaction back.
     void sperreNehmen();
     void sperreAbgeben();
     void sperreLösen() noexcept;
+    void sperreVerwerfen() noexcept;
     bool sperreGehalten() const { return m_sperren > 0; }
 
 private:

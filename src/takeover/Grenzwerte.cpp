@@ -1,6 +1,7 @@
 #include "takeover/Grenzwerte.h"
 
 #include "core/ModulState.h"
+#include "store/Transaktion.h"
 #include "store/Variant.h"
 #include "takeover/Grenzwertrechnung.h"
 #include "takeover/Messzeilen.h"
@@ -94,8 +95,11 @@ void GrenzwertHolen(Recordset& rsGrenzwert, const Recordset& rsMessung) {
             db().OpenRecordset("SELECT * FROM 0100_Grenzwert WHERE MessID = " + rsMessung.Text("MessID"));
         if (rsGrenzwert.Eof())
             grenzwertzeileAnlegen(rsGrenzwert, rsMessung);
-    } catch (const Fehler&) {
-        // The limits that could not be had stay as they were; the caller goes on.
+    } catch (const Fehler& f) {
+        // The limits that could not be had stay as they were; the caller goes on, unless the
+        // store itself failed.
+        if (istSpeicherausfall(f))
+            throw;
     }
 }
 

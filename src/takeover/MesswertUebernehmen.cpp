@@ -5,6 +5,7 @@
 #include "core/Schluesselvergabe.h"
 #include "parsers/Primitive.h"
 #include "platform/Ui.h"
+#include "store/Transaktion.h"
 #include "store/Variant.h"
 #include "takeover/Messzeilen.h"
 #include "takeover/Wertlauf.h"
@@ -154,8 +155,12 @@ bool istTextblock(const QString& funktion) {
 void MesswertÜbernehmen(const QVariant& messungID, const QVariant& datum, const QVariant& uhrzeit) {
     try {
         abbilden(messungID, datum, uhrzeit);
+    } catch (const Fehler& f) {
+        // A block cut short, a column the table names wrongly: the mapping ends here. The store
+        // failing is no bad value: it ends the row, which stays read in.
+        if (istSpeicherausfall(f))
+            throw;
     } catch (const std::exception&) {
-        // A block cut short, a column the table names wrongly: the mapping ends here.
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "store/Recordset.h"
+#include "store/Transaktion.h"
 #include "store/Variant.h"
 #include "takeover/ProcMax.h"
 
@@ -69,8 +70,12 @@ void MesswertÜbernehmenZertifikat(const QVariant& messungID, const QVariant& st
                                   const QVariant& verteilerID, const QVariant& prüfungID) {
     try {
         zuordnen(messungID, {schlüssel(stromkreisID), schlüssel(verteilerID), schlüssel(prüfungID)});
+    } catch (const Fehler& f) {
+        // A column the mapping names wrongly: the mapping ends here. The store failing is no bad
+        // mapping: it ends the row, which stays read in.
+        if (istSpeicherausfall(f))
+            throw;
     } catch (const std::exception&) {
-        // A column the mapping names wrongly, a locked record: the mapping ends here.
     }
 }
 

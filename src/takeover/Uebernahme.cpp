@@ -9,14 +9,17 @@
 #include "parsers/PruefgeraetEintragen.h"
 #include "platform/Ui.h"
 #include "store/Datenbank.h"
+#include "store/Transaktion.h"
 #include "store/Variant.h"
 #include "takeover/ErdWert.h"
 #include "takeover/MesswertUebernehmen.h"
 #include "takeover/MesswertUebernehmenZertifikat.h"
 #include "takeover/Messzeilen.h"
+#include "takeover/Wartezeilen.h"
 #include "takeover/Zertifikatssatz.h"
 
 #include <QDate>
+#include <QHash>
 
 namespace vemo {
 namespace {
@@ -39,10 +42,14 @@ public:
     void erdungswiderständeSchreiben();
 
 private:
+    void zeileÜbernehmen(Recordset& z);
     bool genugZugeordnet(const Recordset& z) const;
     void anlage(const Recordset& z);
-    void prüfung(const Recordset& z);
+    void prüfung(Recordset& z);
     void neuePrüfung();
+    QList<QVariant> wartendeZeilen(Recordset& z);
+    QVariant anlageDerFolgezeile(const Recordset& z);
+    bool eigenePrüfungGilt(const QVariant& prüfungID);
     void verteilerUndStromkreis(const Recordset& z);
     void werteÜbernehmen(const Recordset& z);
 
@@ -52,6 +59,9 @@ private:
     QVariant m_letztesGerät = 0;
     QList<QVariant> m_prüfungen; // touched in this run, in order of first touch, with repeats
     Recordset m_anlage, m_prüfung, m_verteiler, m_stromkreis;
+    // What a look at the rows that follow found, for the length of one look.
+    QHash<QString, QVariant> m_anlagenDerFolgezeilen;
+    QHash<QString, bool> m_geltendePrüfungen;
 };
 
 bool Lauf::genugZugeordnet(const Recordset& z) const {
@@ -63,18 +73,17 @@ bool Lauf::genugZugeordnet(const Recordset& z) const {
 }
 
 void Lauf::anlage(const Recordset& z) {
-    const QString kunde = z.Text("KundeID");
+    const QVariant kunde = z.Field("KundeID");
     if (!m_anlage.istOffen() || m_anlage.Eof() || !gleich(m_anlage.Field("AnlageID"), z.Field("AnlageID")) ||
-        !gleich(m_anlage.Field("KundeID"), z.Field("KundeID")))
-        m_anlage = db().OpenRecordset("SELECT * FROM 0100_Anlage WHERE KundeID = " + kunde +
-                                      " AND AnlageID = " + z.Text("AnlageID"));
+        !gleich(m_anlage.Field("KundeID"), kunde))
+        m_anlage = db().OpenRecordset("SELECT * FROM 0100_Anlage WHERE KundeID = ? AND AnlageID = ?",
+                                      {kunde, z.Field("AnlageID")});
     if (!m_anlage.Eof()) {
         m_schlüssel.anlageID = m_anlage.Field("AnlageID");
         return;
     }
-    // The plant number goes into the statement as it stands: an apostrophe in it fails the look-up.
-    m_anlage = db().OpenRecordset("SELECT * FROM 0100_Anlage where KundeID = " + kunde + " AND Code ='" +
-                                  z.Text("AnlageNr") + "'");
+    m_anlage = db().OpenRecordset("SELECT * FROM 0100_Anlage where KundeID = ? AND Code = ?",
+                                  {kunde, z.Text("AnlageNr")});
     if (!m_anlage.Eof()) {
         m_schlüssel.anlageID = m_anlage.Field("AnlageID");
     } else if (z.Text("AnlageNr").isEmpty()) {
@@ -91,17 +100,19 @@ void Lauf::anlage(const Recordset& z) {
         m_anlage.setField("Name", QString());
         m_schlüssel.anlageID = neu;
         m_anlage.Update();
+        anlageWeitergeben(neu, kunde, z.Text("AnlageNr"), z.Field("MessungID"));
     }
 }
 
-void Lauf::prüfung(const Recordset& z) {
-    const QString anlage = text(m_schlüssel.anlageID);
+void Lauf::prüfung(Recordset& z) {
+    const QVariant anlage = m_schlüssel.anlageID;
+    const QVariant bisher = m_schlüssel.prüfungID;
+    const QString abfrage = "SELECT * FROM 0100_Prüfung WHERE AnlagenID = ? AND PrüfungID = ?";
     const bool bleibt = m_prüfung.istOffen() && !m_prüfung.Eof() &&
-                        gleich(m_prüfung.Field("AnlagenID"), m_schlüssel.anlageID) &&
+                        gleich(m_prüfung.Field("AnlagenID"), anlage) &&
                         gleich(m_prüfung.Field("PrüfungID"), z.Field("PrüfungID"));
     if (!bleibt) {
-        m_prüfung = db().OpenRecordset("SELECT * FROM 0100_Prüfung WHERE AnlagenID = " + anlage +
-                                       " AND PrüfungID = " + z.Text("PrüfungID"));
+        m_prüfung = db().OpenRecordset(abfrage, {anlage, z.Field("PrüfungID")});
         if (!m_prüfung.Eof()) {
             m_prüfungen << m_prüfung.Field("PrüfungID");
             m_letztesGerät = 0;
@@ -109,12 +120,72 @@ void Lauf::prüfung(const Recordset& z) {
     }
     // Rows of one plant without an inspection share the one that the first of them created.
     if (m_prüfung.Eof())
-        m_prüfung = db().OpenRecordset("SELECT * FROM 0100_Prüfung WHERE AnlagenID = " + anlage +
-                                       " AND PrüfungID = " + text(m_schlüssel.prüfungID));
+        m_prüfung = db().OpenRecordset(abfrage, {anlage, bisher});
     if (!m_prüfung.Eof())
         m_schlüssel.prüfungID = m_prüfung.Field("PrüfungID");
     else
         neuePrüfung();
+    // The current inspection is run state: the rows that follow it by that alone are given its key.
+    if (!gleich(m_schlüssel.prüfungID, bisher))
+        prüfungWeitergeben(m_schlüssel.prüfungID, wartendeZeilen(z));
+}
+
+// The rows behind this one that the run takes into the current inspection because it is current:
+// rows of the same plant without a valid inspection of their own, up to the first taken row that
+// goes elsewhere.
+QList<QVariant> Lauf::wartendeZeilen(Recordset& z) {
+    QList<QVariant> wartende;
+    const long hier = z.AbsolutePosition();
+    m_anlagenDerFolgezeilen.clear();
+    m_geltendePrüfungen.clear();
+    for (z.MoveNext(); !z.Eof(); z.MoveNext()) {
+        if (!genugZugeordnet(z))
+            continue;
+        if (!gleich(anlageDerFolgezeile(z), m_schlüssel.anlageID))
+            break;
+        const QVariant eigene = z.Field("PrüfungID");
+        if (gleich(eigene, m_schlüssel.prüfungID))
+            continue;
+        if (eigenePrüfungGilt(eigene))
+            break;
+        wartende << z.Field("MessungID");
+    }
+    z.setAbsolutePosition(hier);
+    return wartende;
+}
+
+// The plant a later row will find, as anlage() finds it; Null where it will make a new one.
+QVariant Lauf::anlageDerFolgezeile(const Recordset& z) {
+    const QString schlüssel = z.Text("KundeID") + '|' + z.Text("AnlageID") + '|' + z.Text("AnlageNr");
+    if (const auto it = m_anlagenDerFolgezeilen.constFind(schlüssel); it != m_anlagenDerFolgezeilen.cend())
+        return *it;
+    const QVariant kunde = z.Field("KundeID");
+    QStringList gefunden = db().ersteSpalte(
+        "SELECT AnlageID FROM 0100_Anlage WHERE KundeID = ? AND AnlageID = ?", {kunde, z.Field("AnlageID")});
+    if (gefunden.isEmpty())
+        gefunden = db().ersteSpalte("SELECT AnlageID FROM 0100_Anlage WHERE KundeID = ? AND Code = ?",
+                                    {kunde, z.Text("AnlageNr")});
+    QVariant anlage = nullWert();
+    if (!gefunden.isEmpty())
+        anlage = gefunden.first().toLongLong();
+    else if (z.Text("AnlageNr").isEmpty())
+        anlage = m_schlüssel.anlageID; // no plant: the row stays on the plant of the row before
+    m_anlagenDerFolgezeilen.insert(schlüssel, anlage);
+    return anlage;
+}
+
+bool Lauf::eigenePrüfungGilt(const QVariant& prüfungID) {
+    if (!gesetzt(prüfungID))
+        return false;
+    const QString schlüssel = text(prüfungID);
+    if (const auto it = m_geltendePrüfungen.constFind(schlüssel); it != m_geltendePrüfungen.cend())
+        return *it;
+    const bool gilt =
+        !db().ersteSpalte("SELECT PrüfungID FROM 0100_Prüfung WHERE AnlagenID = ? AND PrüfungID = ?",
+                          {m_schlüssel.anlageID, prüfungID})
+             .isEmpty();
+    m_geltendePrüfungen.insert(schlüssel, gilt);
+    return gilt;
 }
 
 void Lauf::neuePrüfung() {
@@ -154,15 +225,15 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
     const QString stromkreisNr = z.Text("StromkreisNr");
     if (nummerLeer(verteilerNr))
         return;
-    const QString prüfung = text(m_schlüssel.prüfungID);
-    if (!m_verteiler.istOffen() || m_verteiler.Eof() ||
-        !gleich(m_verteiler.Field("PrüfungID"), m_schlüssel.prüfungID) ||
+    const QVariant prüfung = m_schlüssel.prüfungID;
+    if (!m_verteiler.istOffen() || m_verteiler.Eof() || !gleich(m_verteiler.Field("PrüfungID"), prüfung) ||
         !gleich(m_verteiler.Field("VerteilerID"), z.Field("VerteilerID")))
-        m_verteiler = db().OpenRecordset("SELECT * FROM 0100_Verteiler WHERE PrüfungID = " + prüfung +
-                                         " AND VerteilerID = " + z.Text("VerteilerID"));
-    if (m_verteiler.Eof()) // the board number as it stands: an apostrophe in it fails the look-up
-        m_verteiler = db().OpenRecordset("SELECT * FROM 0100_Verteiler WHERE PrüfungID = " + prüfung +
-                                         " AND Code ='" + verteilerNr + "'");
+        m_verteiler =
+            db().OpenRecordset("SELECT * FROM 0100_Verteiler WHERE PrüfungID = ? AND VerteilerID = ?",
+                               {prüfung, z.Field("VerteilerID")});
+    if (m_verteiler.Eof())
+        m_verteiler = db().OpenRecordset("SELECT * FROM 0100_Verteiler WHERE PrüfungID = ? AND Code = ?",
+                                         {prüfung, verteilerNr});
     if (!m_verteiler.Eof()) {
         m_schlüssel.verteilerID = m_verteiler.Field("VerteilerID");
     } else {
@@ -177,18 +248,20 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
         m_verteiler.setField("Code", verteilerNr);
         m_verteiler.Update();
         m_verteiler.setBookmark(m_verteiler.LastModified());
+        verteilerWeitergeben(neu, prüfung, verteilerNr, z.Field("MessungID"));
     }
     if (nummerLeer(stromkreisNr))
         return;
-    const QString verteiler = text(m_schlüssel.verteilerID);
+    const QVariant verteiler = m_schlüssel.verteilerID;
     if (!m_stromkreis.istOffen() || m_stromkreis.Eof() ||
-        !gleich(m_stromkreis.Field("VerteilerID"), m_schlüssel.verteilerID) ||
+        !gleich(m_stromkreis.Field("VerteilerID"), verteiler) ||
         !gleich(m_stromkreis.Field("StromkreisID"), z.Field("StromkreisID")))
-        m_stromkreis = db().OpenRecordset("SELECT * FROM 0100_STROMKREIS WHERE VerteilerID = " + verteiler +
-                                          " AND StromkreisID = " + z.Text("StromkreisID"));
-    if (m_stromkreis.Eof()) // the circuit number as it stands: an apostrophe in it fails the look-up
-        m_stromkreis = db().OpenRecordset("SELECT * FROM 0100_STROMKREIS WHERE VerteilerID = " + verteiler +
-                                          " AND Code ='" + stromkreisNr + "'");
+        m_stromkreis =
+            db().OpenRecordset("SELECT * FROM 0100_STROMKREIS WHERE VerteilerID = ? AND StromkreisID = ?",
+                               {verteiler, z.Field("StromkreisID")});
+    if (m_stromkreis.Eof())
+        m_stromkreis = db().OpenRecordset("SELECT * FROM 0100_STROMKREIS WHERE VerteilerID = ? AND Code = ?",
+                                          {verteiler, stromkreisNr});
     if (!m_stromkreis.Eof()) {
         m_schlüssel.stromkreisID = m_stromkreis.Field("StromkreisID");
         return;
@@ -204,6 +277,7 @@ void Lauf::verteilerUndStromkreis(const Recordset& z) {
     m_stromkreis.setField("Code", stromkreisNr);
     m_stromkreis.Update();
     m_stromkreis.setBookmark(m_stromkreis.LastModified());
+    stromkreisWeitergeben(neu, verteiler, stromkreisNr, z.Field("MessungID"));
     if (istZertifikat(m_schlüssel.prüfungID)) {
         Recordset messung = db().OpenRecordset("SELECT * FROM 0100_Messung");
         NewMessung(messung); // a certificate circuit always has its one measurement row
@@ -225,27 +299,36 @@ void Lauf::zeilenÜbernehmen(Recordset& z) {
             z.MoveNext();
             continue;
         }
-        anlage(z);
-        prüfung(z);
-        if (!gleich(z.Field("GeräteID"), m_letztesGerät)) {
-            m_letztesGerät = z.Field("GeräteID");
-            PrüfgerätEintragen(m_letztesGerät, m_prüfung, z);
-        }
-        verteilerUndStromkreis(z);
-        werteÜbernehmen(z);
-        modul().ListeKundeID = z.Field("KundeID");
-        modul().ListeAnlageID = m_schlüssel.anlageID;
-        modul().ListePrüfungID = m_schlüssel.prüfungID;
-        z.Delete();
+        zeileÜbernehmen(z);
         z.MoveNext();
         balken.Value = std::min(balken.Max, balken.Value + 1);
         m_form.setFortschritt(balken);
     }
 }
 
+// Everything a read-in row causes, and its leaving the read-in table, commits together or not at
+// all: a run broken off anywhere leaves each row either taken over whole or still read in.
+void Lauf::zeileÜbernehmen(Recordset& z) {
+    Transaktion zeile(db());
+    anlage(z);
+    prüfung(z);
+    if (!gleich(z.Field("GeräteID"), m_letztesGerät)) {
+        m_letztesGerät = z.Field("GeräteID");
+        PrüfgerätEintragen(m_letztesGerät, m_prüfung, z);
+    }
+    verteilerUndStromkreis(z);
+    werteÜbernehmen(z);
+    const QVariant kunde = z.Field("KundeID");
+    z.Delete();
+    zeile.commit();
+    modul().ListeKundeID = kunde;
+    modul().ListeAnlageID = m_schlüssel.anlageID;
+    modul().ListePrüfungID = m_schlüssel.prüfungID;
+}
+
 void Lauf::erdungswiderständeSchreiben() {
     for (const QVariant& schlüssel : std::as_const(m_prüfungen)) {
-        Recordset p = db().OpenRecordset("SELECT * FROM 0100_Prüfung WHERE PrüfungID = " + text(schlüssel));
+        Recordset p = db().OpenRecordset("SELECT * FROM 0100_Prüfung WHERE PrüfungID = ?", {schlüssel});
         p.Edit();
         p.setField("Erdungswiderstand", GetErdWertMax(schlüssel));
         p.Update();

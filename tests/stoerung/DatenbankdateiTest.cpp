@@ -59,8 +59,8 @@ protected:
     };
     static constexpr Fall Fälle[] = {
         {"fehlt.db", "3024"},
-        {"kein-sqlite.db", "3024"},
-        {"leer.db", "3078"}, // a database, but none of the host's: it has no customers
+        {"kein-sqlite.db", "3343"},
+        {"leer.db", "3343"}, // SQLite would take it for an empty database and make it one
         {"schreibgeschuetzt.db", "3027"},
     };
 };
@@ -85,6 +85,7 @@ TEST_F(DatenbankdateiTest, DieKomponenteZeigtEineMeldungUndBleibtOhneDatenbank) 
         EXPECT_EQ(m_ui.texte(), QStringList(2, "91 Objektvariable oder With-Blockvariable nicht festgelegt"));
     }
     EXPECT_EQ(QFile(pfad("kein-sqlite.db")).size(), 39) << "a file that is not a database stays as it was";
+    EXPECT_EQ(QFile(pfad("leer.db")).size(), 0);
 }
 
 TEST_F(DatenbankdateiTest, DieKommandozeileEndetMitEinerZeile) {

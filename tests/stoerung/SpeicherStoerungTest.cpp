@@ -1,15 +1,19 @@
 // The store failing under a read-in and a take-over: another writer holding the lock, the disk
-// running full. The component shows the store's message, leaves a sound database with what it
-// wrote before, and the run can be repeated once the fault is gone.
+// running full, the process killed. The component shows the store's message, leaves a sound
+// database with what it wrote before, and a take-over repeated once the fault is gone ends where
+// one undisturbed run does: nothing lost, nothing twice.
 #include "grid/EinleseDatenController.h"
 #include "host/Modul15a.h"
 #include "store/Datenbank.h"
 #include "store/Recordset.h"
+#include "store/Variant.h"
 #include "support/Testumgebung.h"
 #include "takeover/Uebernahme.h"
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QProcess>
+#include <QThread>
 #include <chrono>
 #include <sqlite3.h>
 
@@ -32,6 +36,14 @@ public:
         return sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK;
     }
     void freigeben() const { sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr); }
+    // The read-in rows a take-over has still to do, as another connection sees them.
+    int zeilen() const {
+        sqlite3_stmt* s = nullptr;
+        sqlite3_prepare_v2(m_db, "SELECT Count(*) FROM \"0100_EinleseDaten\"", -1, &s, nullptr);
+        const int n = sqlite3_step(s) == SQLITE_ROW ? sqlite3_column_int(s, 0) : -1;
+        sqlite3_finalize(s);
+        return n;
+    }
 
 private:
     sqlite3* m_db = nullptr;
@@ -59,14 +71,19 @@ protected:
     long einlesewerte() const { return anzahl("0100_EinleseMessDaten"); }
     QString integrität() const { return wert("PRAGMA integrity_check"); }
 
-    // Read-in rows of one instrument for customer 1 and plant 1 of the demo data, on boards of five
-    // circuits, with two values each.
+    // Read-in rows for customer 1 of the demo data, on boards of five circuits, with two values
+    // each: the first two thirds for its plant 1, the rest for a plant number it does not have yet.
+    // None names an inspection, so the run makes one for each plant. The first half comes from a
+    // registered instrument, the second from one the register does not know.
     void zuordnungsfertigeZeilen(int anzahl) const {
-        sql("INSERT INTO \"0100_EinleseGeräteDaten\" VALUES (1, '0100-Corvex', '  C12345678', 1, '')");
+        sql("INSERT INTO \"0100_EinleseGeräteDaten\" VALUES (1, '0100-Corvex', '  C12345678', 1, ''), "
+            "(2, '0100-Corvex', '  C99999999', 0, '')");
         for (int i = 0; i < anzahl; ++i) {
-            ausführen("INSERT INTO 0100_EinleseDaten (MessungID, GeräteID, KundeID, AnlageID, VerteilerNr, "
-                      "StromkreisNr) VALUES (?, 1, 1, 1, ?, ?)",
-                      {i + 1, QString::number(1 + i / 5), QString::number(1 + i % 5)});
+            const bool neueAnlage = i >= 2 * anzahl / 3;
+            ausführen("INSERT INTO 0100_EinleseDaten (MessungID, GeräteID, KundeID, AnlageID, AnlageNr, "
+                      "VerteilerNr, StromkreisNr) VALUES (?, ?, 1, ?, ?, ?, ?)",
+                      {i + 1, i < anzahl / 2 ? 1 : 2, neueAnlage ? 0 : 1, neueAnlage ? "7" : "",
+                       QString::number(1 + i / 5), QString::number(1 + i % 5)});
             ausführen("INSERT INTO 0100_EinleseMessDaten VALUES (?1, 'Riso MOhm', ?2, 'MOhm'), "
                       "(?1, 'Zs', '0,35', 'Ohm')",
                       {i + 1, QString::number(200 + i)});
@@ -83,6 +100,67 @@ protected:
             ergebnis << rs.Text("B") + "/" + rs.Text("C") + "=" + rs.Text("R");
         return ergebnis;
     }
+    // Everything the take-over made for customer 1, without the keys, which a rolled-back row may
+    // have used up: each measurement row by inspection, board and circuit, and each inspection's
+    // instruments and earth resistance.
+    QStringList ergebnis() const {
+        QStringList zeilen;
+        Recordset m = db().OpenRecordset(
+            "SELECT A.Code AS AC, P.ProtokollNr AS PN, V.Code AS VC, S.Code AS SC, M.* FROM (((0100_Anlage "
+            "AS A "
+            "INNER JOIN 0100_Prüfung AS P ON P.AnlagenID = A.AnlageID) INNER JOIN 0100_Verteiler AS V ON "
+            "V.PrüfungID = P.PrüfungID) INNER JOIN 0100_Stromkreis AS S ON S.VerteilerID = V.VerteilerID) "
+            "INNER JOIN 0100_Messung AS M ON M.StromkreisID = S.StromkreisID WHERE A.KundeID = 1");
+        for (; !m.Eof(); m.MoveNext()) {
+            QStringList felder;
+            for (int i = 0; i < m.FieldCount(); ++i)
+                if (!m.FieldName(i).endsWith("ID", Qt::CaseInsensitive))
+                    felder << text(m.Field(i));
+            zeilen << felder.join('|');
+        }
+        Recordset p =
+            db().OpenRecordset("SELECT A.Code, P.* FROM 0100_Anlage AS A INNER JOIN 0100_Prüfung AS P "
+                               "ON P.AnlagenID = A.AnlageID WHERE A.KundeID = 1");
+        for (; !p.Eof(); p.MoveNext())
+            zeilen << p.Text("Code") + ": " + p.Text("ProtokollNr") + " " + p.Text("Erdungswiderstand") +
+                          " " + p.Text("PrüfgerätName1") + "; " + p.Text("PrüfgerätName2") + "; " +
+                          p.Text("PrüfgerätName3");
+        zeilen.sort();
+        return zeilen;
+    }
+    // What one undisturbed take-over of the rows makes, on a database of its own.
+    QStringList ungestört(int zeilen) {
+        neueDatenbank(true);
+        zuordnungsfertigeZeilen(zeilen);
+        übernehmen();
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+        return ergebnis();
+    }
+    // A second take-over after the broken one: no message, nothing left read in, the same records.
+    void wiederholtWieUngestört(const QStringList& erwartet) {
+        EXPECT_EQ(integrität(), "ok");
+        übernehmen();
+        EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+        EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+        const QStringList jetzt = ergebnis();
+        QStringList unterschiede;
+        for (const QString& z : jetzt)
+            if (!erwartet.contains(z))
+                unterschiede << "more: " + z;
+        for (const QString& z : erwartet)
+            if (!jetzt.contains(z))
+                unterschiede << "missing: " + z;
+        EXPECT_EQ(jetzt.size(), erwartet.size());
+        EXPECT_TRUE(unterschiede.isEmpty()) << unterschiede.mid(0, 8).join('\n').toStdString();
+    }
+    // The rows still read in keep all their values.
+    void geblieben() const {
+        const long zeilen = anzahl("0100_EinleseDaten");
+        EXPECT_GT(zeilen, 0);
+        EXPECT_EQ(anzahl("0100_EinleseMessDaten"), 2 * zeilen) << "the rows that stay keep their values";
+    }
+
     // The take-over's button, with a hook at each step of its progress.
     void übernehmen(const std::function<void(int)>& beiZeile = {}) {
         m_ui.meldungen.clear();
@@ -133,46 +211,27 @@ INSTANTIATE_TEST_SUITE_P(Familien, GesperrtesEinlesen,
                                            "zemak-3710b.ser", "zemak-3720.ser", "zemak-3740.ser",
                                            "quentavoir.ser", "sorelin-pm12.ser"));
 
-// Another workplace takes the lock in the middle of a take-over: the rows taken until then are in
-// the inspection, the others stay read in, and the repeated run ends where an undisturbed one does.
+// Another workplace takes the lock in the middle of a take-over and keeps it past the wait: the
+// run stops with the store's message at the row it could not begin, and the repeated run ends
+// where an undisturbed one does.
 TEST_F(SpeicherStoerungTest, UebernahmeUnterFremderSperreLaesstSichWiederholen) {
-    neueDatenbank(true);
-    db().setWartezeit(Wartezeit);
-    zuordnungsfertigeZeilen(12);
-    übernehmen();
-    const QStringList ungestört = übernommen();
-    ASSERT_EQ(ungestört.size(), 12) << m_ui.texte().join(" | ").toStdString();
-    const QString prüfungen = wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = 1");
+    const QStringList erwartet = ungestört(60);
 
     neueDatenbank(true);
     db().setWartezeit(Wartezeit);
-    zuordnungsfertigeZeilen(12);
+    zuordnungsfertigeZeilen(60);
     Fremdschreiber anderer(m_dbPfad);
     bool gesperrt = false;
     übernehmen([&](int zeile) {
-        if (zeile == 6 && !gesperrt)
+        if (zeile == 30 && !gesperrt)
             gesperrt = anderer.sperren();
     });
     ASSERT_TRUE(gesperrt);
     alleMeldungenSind("3260");
-    const long geblieben = anzahl("0100_EinleseDaten");
-    EXPECT_GT(geblieben, 0);
-    EXPECT_LT(geblieben, 12);
+    EXPECT_EQ(m_ui.meldungen.size(), 1);
+    geblieben();
     anderer.freigeben();
-    EXPECT_EQ(integrität(), "ok");
-    // Every row gone from the read-in table stands in the inspection.
-    EXPECT_GE(übernommen().size(), 12 - geblieben);
-
-    übernehmen();
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
-    // Each value once; the rows of the second run, which have no inspection, share a new one.
-    QStringList wiederholt = übernommen();
-    wiederholt.sort();
-    QStringList erwartet = ungestört;
-    erwartet.sort();
-    EXPECT_EQ(wiederholt, erwartet);
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = 1").toInt(), prüfungen.toInt() + 1);
+    wiederholtWieUngestört(erwartet);
 }
 
 // The database may grow only a few pages: a read-in repeated until the disk is full.
@@ -196,20 +255,21 @@ TEST_F(SpeicherStoerungTest, VolleFestplatteBeimEinlesenBehaeltDasBisherGeschrie
     EXPECT_GT(einlesewerte(), nachDemFehler);
 }
 
-// The disk fills up in the middle of a take-over: another program takes the last free space. A
-// full disk that the value mapping meets ends the mapping of that row without a word, and the row
-// leaves the read-in table all the same (the take-over's chain of silent traps); the run itself
-// shows the store's message where it cannot add a record. What must hold is a sound database whose
-// remaining rows keep their values, and a second run that takes them once there is room.
-TEST_F(SpeicherStoerungTest, VolleFestplatteBeiDerUebernahmeLaesstEineHeileDatenbank) {
+// The disk fills up in the middle of a take-over: another program takes the last free space. The
+// value mapping's silent trap is for values it cannot place, not for a store that cannot write:
+// the run stops with the store's message, the row in hand stays read in with its values, and once
+// there is room a second run ends where an undisturbed one does.
+TEST_F(SpeicherStoerungTest, VolleFestplatteBeiDerUebernahmeVerliertNichts) {
+    const QStringList erwartet = ungestört(600);
+
     neueDatenbank(true);
-    // The records a row makes take more room than its read-in rows give back.
-    zuordnungsfertigeZeilen(1000);
+    zuordnungsfertigeZeilen(600);
     sql("CREATE TABLE Ballast (Inhalt BLOB)");
     bool voll = false;
     übernehmen([&](int zeile) {
-        if (zeile != 100 || voll)
+        if (zeile < 100)
             return;
+        // The other program takes every page the run gives back, until a row finds none.
         sql("PRAGMA max_page_count = " + wert("PRAGMA page_count"));
         try {
             for (int i = 0; i < 100000; ++i)
@@ -220,16 +280,35 @@ TEST_F(SpeicherStoerungTest, VolleFestplatteBeiDerUebernahmeLaesstEineHeileDaten
     });
     ASSERT_TRUE(voll);
     alleMeldungenSind("3013");
-    EXPECT_EQ(integrität(), "ok");
-    const long geblieben = anzahl("0100_EinleseDaten");
-    EXPECT_GT(geblieben, 0);
-    EXPECT_EQ(anzahl("0100_EinleseMessDaten"), 2 * geblieben) << "the rows that stay keep their values";
-    EXPECT_GE(übernommen().size(), 99) << "the rows taken before the disk was full";
+    EXPECT_EQ(m_ui.meldungen.size(), 1);
+    geblieben();
 
     sql("DROP TABLE Ballast; PRAGMA max_page_count = 1073741823;");
-    übernehmen();
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+    wiederholtWieUngestört(erwartet);
+}
+
+// The command line's take-over killed (a power cut, kill -9) at several points of its run: each
+// row is taken over whole or not at all, and the rows waiting for the inspection the run made know
+// it, so that the repeated run makes no second one.
+TEST_F(SpeicherStoerungTest, GetoeteteUebernahmeEndetWiederholtWieEineUngestoerte) {
+    constexpr int Zeilen = 1500;
+    const QStringList erwartet = ungestört(Zeilen);
+    for (const int rest : {Zeilen * 95 / 100, Zeilen / 2, Zeilen / 20}) {
+        SCOPED_TRACE(rest);
+        neueDatenbank(true);
+        zuordnungsfertigeZeilen(Zeilen);
+        QProcess p;
+        p.start(QString(VEMO_BIN_DIR) + "/vemo0100",
+                {"--db", m_dbPfad, "--settings", pfad("einstellungen.ini"), "take-over"});
+        ASSERT_TRUE(p.waitForStarted());
+        Fremdschreiber beobachter(m_dbPfad);
+        while (p.state() == QProcess::Running && beobachter.zeilen() > rest)
+            QThread::msleep(2);
+        p.kill();
+        p.waitForFinished();
+        ASSERT_EQ(p.exitStatus(), QProcess::CrashExit) << "killed before its end";
+        wiederholtWieUngestört(erwartet);
+    }
 }
 
 } // namespace
