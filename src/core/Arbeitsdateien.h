@@ -24,6 +24,9 @@ QString arbeitsdatei(const QString& name);
 // The file of that name in the folder, whatever its case; the name as given when there is none.
 QString ohneGroßKlein(const QString& verzeichnis, const QString& name);
 
+// The whole content of a file; raises 53 or 75 when it cannot be read.
+QByteArray dateiLesen(const QString& pfad);
+
 // Copies a file byte for byte over the destination; raises 53 or 75 when that is not possible.
 void dateiKopieren(const QString& von, const QString& nach);
 
