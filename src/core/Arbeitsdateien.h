@@ -16,6 +16,7 @@ inline const QString Rs232Sep = "Rs232.sep";  // raw block dump
 inline const QString Verteil = "Verteil.txt"; // list of boards
 inline const QString Mnu = "Ruvo.MNU";        // word tables of the host's installation
 inline const QString Mul = "Ruvo.MUL";
+inline const QString Sperre = "Arbeitsdateien.lock"; // held by the run that uses the files above
 } // namespace datei
 
 // The full path of a working file in Datenbankverzeichnis.

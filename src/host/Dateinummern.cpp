@@ -93,6 +93,10 @@ QString NächsteSepNummer() {
     return ergebnis;
 }
 
+void backupVerzeichnisPrüfen() {
+    backupVerzeichnis();
+}
+
 void nummerierteKopieAnlegen(const QString& selektor) {
     const QByteArray inhalt = dateiLesen(arbeitsdatei(rohdateiFür(selektor)));
     QString ziel;

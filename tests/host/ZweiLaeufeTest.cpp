@@ -1,6 +1,8 @@
 #include "core/Arbeitsdateien.h"
 #include "core/Geraetetypen.h"
 #include "host/Dateinummern.h"
+#include "host/Modul15a.h"
+#include "store/Recordset.h"
 #include "support/Hilfsprozess.h"
 #include "support/Testumgebung.h"
 
@@ -10,6 +12,7 @@
 #include <QProcess>
 #include <QTextStream>
 #include <cstdio>
+#include <map>
 
 using namespace vemo;
 
@@ -22,6 +25,31 @@ void aufLosWarten() {
     ein.open(stdin, QIODevice::ReadOnly);
     ein.readLine();
 }
+
+const QString Belegt = "Die Arbeitsdateien werden von einer anderen Übertragung benutzt.";
+
+// Reads a dump into a database as often as told and prints how many of the runs stored it; a run
+// kept from the working files by the other process stores nothing. Arguments: the database, the
+// backup folder, the dump, how often. Exit 2 on any other message (written to stderr).
+const test::Hilfsprozess dateiEinlesen("datei-einlesen", [](const QStringList& a) {
+    AufzeichnungsUi ui;
+    SpeicherSettingsStore settings;
+    vemo0100Modul15a k(ui, settings);
+    k.setVemotrixDBName(a.value(0));
+    k.setBackupVerzeichnis(a.value(1));
+    aufLosWarten();
+    int gespeichert = 0;
+    for (int i = 0; i < a.value(3).toInt(); ++i) {
+        ui.meldungen.clear();
+        k.EinlesenAusDateiName(a.value(2));
+        if (ui.meldungen.isEmpty())
+            ++gespeichert;
+        else if (ui.texte() != QStringList{Belegt} || modul().Abbruchmerker != 1)
+            return std::fprintf(stderr, "%s\n", qPrintable(ui.texte().join(" | "))), 2;
+    }
+    QTextStream(stdout) << gespeichert << Qt::endl;
+    return 0;
+});
 
 // Makes numbered copies of a working dump of its own, counting from a "LastFile" of its own, and
 // prints each number. Arguments: the folder of the working dump, its content, the backup folder,
@@ -71,7 +99,47 @@ protected:
         for (QProcess& prozess : p)
             ASSERT_TRUE(prozess.waitForFinished(60000));
     }
+
+    // The read-in rows by the serial number of their instrument.
+    std::map<QString, long> zeilenJeGerät() const {
+        Recordset rs = db().OpenRecordset("SELECT g.Seriennummer, Count(*) FROM 0100_EinleseDaten AS d INNER "
+                                          "JOIN 0100_EinleseGeräteDaten AS g "
+                                          "ON d.GeräteID = g.GeräteID GROUP BY g.Seriennummer");
+        std::map<QString, long> zeilen;
+        for (; !rs.Eof(); rs.MoveNext())
+            zeilen[rs.Text("Seriennummer")] = rs.Field(1).toInt();
+        return zeilen;
+    }
+    void einlesedatenLeeren() const {
+        sql("DELETE FROM \"0100_EinleseMessDaten\"; DELETE FROM \"0100_EinleseDaten\"; "
+            "DELETE FROM \"0100_EinleseGeräteDaten\";");
+    }
 };
+
+// Two workplaces read different dumps into one database folder at once, again and again: each run
+// stores its own dump or is told that the other keeps the working files, and then stores nothing;
+// never the other's dump.
+TEST_F(ZweiLaeufeTest, TwoReadInsOnOneFolderEachStoreTheirOwnDumpOrNothing) {
+    const QString dumps[2] = {test::quelle("samples/corvex-verteilung.ser"),
+                              test::quelle("samples/zemak-3710b.ser")};
+    vemo0100Modul15a k(m_ui, m_settings);
+    std::pair<QString, long> allein[2];
+    for (int i = 0; i < 2; ++i) {
+        k.EinlesenAusDateiName(dumps[i]);
+        ASSERT_EQ(zeilenJeGerät().size(), 1u) << m_ui.texte().join(" | ").toStdString();
+        allein[i] = *zeilenJeGerät().begin();
+        einlesedatenLeeren();
+    }
+    QProcess p[2];
+    zugleich(p, "datei-einlesen",
+             {{m_dbPfad, pfad("sicherung"), dumps[0], "40"}, {m_dbPfad, pfad("sicherung"), dumps[1], "40"}});
+    std::map<QString, long> erwartet;
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_EQ(p[i].exitCode(), 0) << p[i].readAllStandardError().constData();
+        erwartet[allein[i].first] = allein[i].second * p[i].readAllStandardOutput().trimmed().toInt();
+    }
+    EXPECT_EQ(zeilenJeGerät(), erwartet);
+}
 
 // Two workplaces counting from the same "LastFile" into one backup folder never get one number:
 // each copy is a file of its own with its own dump.
