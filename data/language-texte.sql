@@ -7,6 +7,7 @@
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Es sind keine Eilnlesedaten vorhanden', 'There is no read-in data'),
   ('Datenübertragung abgebrochen', 'Data transfer aborted'),
+  ('Die Arbeitsdateien werden von einer anderen Übertragung benutzt.', 'The working files are in use by another transfer.'),
   ('Messungen', 'Measurements'),
   ('Serielle Datenübertragung', 'Serial data transfer'),
   ('Datenübertragung Abbrechen', 'Abort data transfer'),

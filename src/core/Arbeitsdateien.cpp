@@ -24,20 +24,24 @@ QString arbeitsdatei(const QString& name) {
     return ohneGroßKlein(modul().Datenbankverzeichnis, name);
 }
 
+QByteArray dateiLesen(const QString& pfad) {
+    if (!QFileInfo::exists(pfad))
+        throw fehler::mit(fehler::DateiNichtGefunden, pfad);
+    QFile datei(pfad);
+    if (!datei.open(QIODevice::ReadOnly))
+        throw fehler::mit(fehler::PfadZugriff, pfad);
+    return datei.readAll();
+}
+
 void dateiKopieren(const QString& von, const QString& nach) {
-    if (!QFileInfo::exists(von))
-        throw fehler::mit(fehler::DateiNichtGefunden, von);
-    if (QFileInfo(von).canonicalFilePath() == QFileInfo(nach).canonicalFilePath())
+    if (QFileInfo::exists(von) && QFileInfo(von).canonicalFilePath() == QFileInfo(nach).canonicalFilePath())
         return; // the file already is the destination
-    QFile quelle(von);
-    if (!quelle.open(QIODevice::ReadOnly))
-        throw fehler::mit(fehler::PfadZugriff, von);
+    const QByteArray inhalt = dateiLesen(von);
     // The copy replaces the destination at once: a second workplace reading the same working file
     // beside a shared database meanwhile sees the whole old file or the whole new one.
     QSaveFile ziel(nach);
     if (!ziel.open(QIODevice::WriteOnly))
         throw fehler::mit(fehler::PfadZugriff, nach);
-    const QByteArray inhalt = quelle.readAll();
     if (ziel.write(inhalt) != inhalt.size() || !ziel.commit())
         throw fehler::mit(fehler::PfadZugriff, nach);
 }

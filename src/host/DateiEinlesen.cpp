@@ -1,6 +1,7 @@
 #include "host/DateiEinlesen.h"
 
 #include "core/Arbeitsdateien.h"
+#include "core/Arbeitsdateisperre.h"
 #include "core/Geraetetypen.h"
 #include "core/ModulState.h"
 #include "host/Dateinummern.h"
@@ -49,7 +50,10 @@ void dateiÜbernehmen(const QString& pfad) {
 
 void dateiEinlesen(const QString& pfad) {
     ModulState& m = modul();
-    if (pfad.trimmed().isEmpty())
+    if (pfad.trimmed().isEmpty() || !backupVerzeichnisDa())
+        return;
+    const Arbeitsdateisperre sperre;
+    if (!arbeitsdateienFrei(sperre))
         return;
     m.dateinameGewählt = pfad;
     GeräteErkennen(pfad);

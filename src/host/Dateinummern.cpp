@@ -44,6 +44,23 @@ QString backupVerzeichnis() {
     return v;
 }
 
+// Creates the numbered file only if no file has its number yet, in one step of the file system:
+// another workplace counting from the same "LastFile" meanwhile never gets the same file, and a
+// copy never overwrites another. False when the number was taken.
+bool neuAnlegen(const QString& ziel, const QByteArray& inhalt) {
+    QFile datei(ziel);
+    if (!datei.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        if (QFileInfo::exists(ziel))
+            return false;
+        throw fehler::mit(fehler::PfadZugriff, ziel);
+    }
+    if (datei.write(inhalt) != inhalt.size() || !datei.flush()) {
+        datei.remove();
+        throw fehler::mit(fehler::PfadZugriff, ziel);
+    }
+    return true;
+}
+
 } // namespace
 
 QString NächsteDateiNummer() {
@@ -76,14 +93,21 @@ QString NächsteSepNummer() {
     return ergebnis;
 }
 
+void backupVerzeichnisPrüfen() {
+    backupVerzeichnis();
+}
+
 void nummerierteKopieAnlegen(const QString& selektor) {
-    const QString nummer = NächsteDateiNummer();
-    const QString ziel = text(modul().BackupVerzeichnis) + QDir::separator() + nummer + ".ser";
-    modul().backupNummer = nummer;
-    modul().backupPfad = ziel;
-    if (nummer.isEmpty())
-        throw fehler::mit(fehler::PfadNichtGefunden, ziel);
-    dateiKopieren(arbeitsdatei(rohdateiFür(selektor)), ziel);
+    const QByteArray inhalt = dateiLesen(arbeitsdatei(rohdateiFür(selektor)));
+    QString ziel;
+    do {
+        const QString nummer = NächsteDateiNummer();
+        ziel = text(modul().BackupVerzeichnis) + QDir::separator() + nummer + ".ser";
+        modul().backupNummer = nummer;
+        modul().backupPfad = ziel;
+        if (nummer.isEmpty())
+            throw fehler::mit(fehler::PfadNichtGefunden, ziel);
+    } while (!neuAnlegen(ziel, inhalt));
 }
 
 } // namespace vemo

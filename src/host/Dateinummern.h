@@ -14,8 +14,11 @@ QString NächsteDateiNummer();
 // A provisional number: one step, no look at the directory.
 QString NächsteSepNummer();
 
-// Copies the raw file of the selector, byte for byte, to the next numbered file; raises the store's
-// error when the copy fails.
+// Raises 76 when BackupVerzeichnis is not an existing folder.
+void backupVerzeichnisPrüfen();
+
+// Copies the raw file of the selector, byte for byte, to the next numbered file, made new: a number
+// whose file another process created meanwhile is passed over. Raises the error when the copy fails.
 void nummerierteKopieAnlegen(const QString& selektor);
 
 } // namespace vemo

@@ -1,5 +1,6 @@
 #include "host/Transfer.h"
 
+#include "core/Arbeitsdateisperre.h"
 #include "core/Geraetetypen.h"
 #include "core/ModulState.h"
 #include "host/Dateinummern.h"
@@ -59,6 +60,22 @@ Ausgang TransferStarten() {
     return it != verbindungen().end() ? it->second() : dumpEmpfang();
 }
 
+bool backupVerzeichnisDa() {
+    if (mitFalle(backupVerzeichnisPrüfen))
+        return true;
+    modul().Abbruchmerker = 1;
+    return false;
+}
+
+bool arbeitsdateienFrei(const Arbeitsdateisperre& sperre) {
+    if (sperre.gehalten())
+        return true;
+    ui().MsgBox(xText("Die Arbeitsdateien werden von einer anderen Übertragung benutzt."),
+                modul().anwendungstitel);
+    modul().Abbruchmerker = 1;
+    return false;
+}
+
 void datenpoolVorbereiten() {
     DateiVorbereiten(false);
 }
@@ -73,6 +90,11 @@ void DatenEmpfangen() {
     const auto code = istLeer(m.PrüfgeräteTypID) ? 0 : ganzzahl(m.PrüfgeräteTypID);
     if (const auto s = selektorFür(int(code)))
         m.Selektor() = *s; // any other code leaves the selector of the run before in force
+    if (!backupVerzeichnisDa())
+        return;
+    const Arbeitsdateisperre sperre;
+    if (!arbeitsdateienFrei(sperre))
+        return;
     if (TransferStarten() == Ausgang::Verlassen)
         return;
     if (m.Abbruchmerker == 1) {

@@ -1,14 +1,18 @@
 #include "core/Arbeitsdateien.h"
+#include "core/Arbeitsdateisperre.h"
 #include "core/Geraetetypen.h"
 #include "host/DateiEinlesen.h"
 #include "host/Dateinummern.h"
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
+#include "platform/Dialog.h"
 #include "store/Variant.h"
 #include "support/Testumgebung.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <functional>
 
 using namespace vemo;
 
@@ -185,6 +189,37 @@ TEST_F(HostTest, ReadingAFileCopiesItAndUsesUpANumber) {
     EXPECT_EQ(lastFile(), "LastFile = 00000003");
     EXPECT_EQ(QDir(pfad("sicherung")).entryList(QDir::Files).size(), 1); // no copy of a file read
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
+}
+
+// A run that could not finish stores nothing: the backup folder is missing (the copy at the end
+// would fail), or another run keeps the working files.
+TEST_F(HostTest, ARunThatCannotFinishIsToldBeforeAnythingIsStored) {
+    vemo0100Modul15a k(m_ui, m_settings);
+    k.setPrüfgeräteTypID(100);
+    m_ui.beiDialog = [](DialogController& d) { d.schließen(); };
+    const QString probe = test::quelle("samples/corvex-verteilung.ser");
+    const std::function<void()> läufe[] = {[&] { k.EinlesenAusDateiName(probe); },
+                                           [&] { k.DatenEmpfangen(); }};
+    for (const auto& lauf : läufe) {
+        m_ui.meldungen.clear();
+        modul().BackupVerzeichnis = pfad("gibtsnicht");
+        lauf();
+        ASSERT_EQ(m_ui.meldungen.size(), 1);
+        EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("76 Pfad nicht gefunden")) << m_ui.meldungen[0].text.toStdString();
+        EXPECT_EQ(modul().Abbruchmerker, 1);
+
+        modul().BackupVerzeichnis = pfad("sicherung");
+        const Arbeitsdateisperre andererLauf;
+        ASSERT_TRUE(andererLauf.gehalten());
+        lauf();
+        EXPECT_EQ(m_ui.texte().value(1), "Die Arbeitsdateien werden von einer anderen Übertragung benutzt.");
+        EXPECT_EQ(modul().Abbruchmerker, 1);
+    }
+    EXPECT_EQ(m_ui.meldungen.size(), 2);
+    EXPECT_TRUE(m_ui.dialoge.isEmpty());
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
+    EXPECT_FALSE(QFileInfo::exists(arbeitsdatei(datei::Ruvo)));
+    EXPECT_EQ(lastFile(), "");
 }
 
 } // namespace
