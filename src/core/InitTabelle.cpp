@@ -1,6 +1,7 @@
 #include "core/InitTabelle.h"
 
 #include "core/ModulState.h"
+#include "store/Literal.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 
@@ -8,9 +9,8 @@ namespace vemo {
 
 namespace {
 
-// The name goes into the statement as it stands: the names are the component's own.
 Recordset initZeile(const QString& name) {
-    return db().OpenRecordset("SELECT * FROM init WHERE name = '" + name.left(50) + "'");
+    return db().OpenRecordset("SELECT * FROM init WHERE name = " + literal(name.left(50)));
 }
 
 } // namespace

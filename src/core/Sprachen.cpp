@@ -4,6 +4,7 @@
 #include "core/ModulState.h"
 #include "platform/Fehler.h"
 #include "platform/Ui.h"
+#include "store/Literal.h"
 
 namespace vemo {
 
@@ -29,10 +30,11 @@ Zerlegt endungAbtrennen(const QString& text) {
     return {text, {}};
 }
 
-// The look-up as the language database's own dialect writes it: the text in double quotes, so that a
-// text holding a double quote breaks the statement.
+// The look-up in the language database's dialect. Texts to translate come from files and dumps too
+// (word tables, function names), so the text is a literal: a quote in it is a quote.
 QString suchAnweisung(const QString& spalte, const QString& kern) {
-    return "SELECT Sprache.[" + spalte + "] FROM Sprache " + "WHERE (((Sprache.TextID) = \"" + kern + "\"));";
+    return "SELECT Sprache.[" + spalte + "] FROM Sprache " + "WHERE (((Sprache.TextID) = " + literal(kern) +
+           "));";
 }
 
 MsgStil information() {

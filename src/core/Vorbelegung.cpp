@@ -3,6 +3,7 @@
 #include "core/ModulState.h"
 #include "core/Schluesselvergabe.h"
 #include "platform/Zahlformat.h"
+#include "store/Literal.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 
@@ -81,9 +82,8 @@ void NeueZeileVorbelegen(const QString& art, Recordset& rs, const QVariant& elte
 
 void BetriebsmittelAnlegen(const QVariant& prüfungID) {
     Recordset ziel = db().OpenRecordset("0100_Betriebsmittel");
-    // The language name goes into the statement as it stands: an apostrophe in it fails the look-up.
-    Recordset vorlage = db().OpenRecordset("SELECT * FROM 0100_Betriebsmittelstandard WHERE SPRACHE = '" +
-                                           modul().sprachen.Sprache() + "'");
+    Recordset vorlage = db().OpenRecordset("SELECT * FROM 0100_Betriebsmittelstandard WHERE SPRACHE = " +
+                                           literal(modul().sprachen.Sprache()));
     for (; !vorlage.Eof(); vorlage.MoveNext()) {
         ziel.AddNew();
         ziel.setField("BetriebsmittelID", NeueID("", ziel.Name()));

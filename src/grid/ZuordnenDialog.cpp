@@ -3,6 +3,7 @@
 #include "core/ModulState.h"
 #include "grid/Anzeigetext.h"
 #include "grid/GrundText.h"
+#include "store/Literal.h"
 #include "store/Variant.h"
 
 namespace vemo {
@@ -67,9 +68,9 @@ void frmZuordnen::anlagenFüllen() {
         return;
     }
     m_anlage.aktiv = true;
-    // The plant number goes into the criterion as it stands: an apostrophe in it fails the search.
+    // The plant number is the dump's text: a literal of the criterion, whatever it holds.
     const QString nummer = nummern.first();
-    anlagen.FindFirst("Code ='" + nummer + "'");
+    anlagen.FindFirst("Code =" + literal(nummer));
     QString gemerkt;
     int vorwahl = -1;
     if (anlagen.NoMatch() && !nummer.isEmpty()) {

@@ -5,6 +5,7 @@
 #include "core/Vorbelegung.h"
 #include "import/Adresse.h"
 #include "store/Datenbank.h"
+#include "store/Literal.h"
 #include "store/Variant.h"
 
 #include <QDateTime>
@@ -43,11 +44,11 @@ Stammdaten::Stammdaten()
     : m_kunden(db().OpenRecordset("Kunde")), m_anlagen(db().OpenRecordset("0100_Anlage")) {}
 
 QVariant Stammdaten::kunde(const Quellzeile& z) {
-    // The names go into the statements as they stand: an apostrophe in one fails the look-up. The
-    // statement for rows without customer and plant asks for a blank name, as it always has.
+    // The names of the source are literals of the statements. The statement for rows without
+    // customer and plant asks for a blank name, as it always has.
     const QString abfrage = ohneKundeUndAnlage(z)
                                 ? QString("SELECT * FROM Kunde where Name = ' '")
-                                : "SELECT * FROM Kunde where Name = '" + z.text("Kunden") + "'";
+                                : "SELECT * FROM Kunde where Name = " + literal(z.text("Kunden"));
     const QVariant gefunden = gleicherKunde(abfrage, z);
     return gefunden.isValid() ? gefunden : neuerKunde(z);
 }
@@ -80,13 +81,14 @@ QVariant Stammdaten::neuerKunde(const Quellzeile& z) {
 }
 
 QVariant Stammdaten::anlage(const Quellzeile& z, const QVariant& kundeID) {
-    // As for the customer: the texts stand in the statements as they are, and the statement for rows
-    // without customer and plant keeps its old spelling, which looks at every customer's plants.
-    const QString abfrage =
-        ohneKundeUndAnlage(z) ? QString("SELECT * FROM 0100_Anlage where Name = ''AND Code =''")
-                              : "SELECT * FROM 0100_Anlage where Name = '" + z.text("Anlage") +
-                                    "' AND Code ='" + z.text("Anlage") + "' AND KundeID = " + text(kundeID) +
-                                    " AND Anlagenplaner = '" + z.text("Anlagenplaner") + "'";
+    // As for the customer: the texts are literals, and the statement for rows without customer and
+    // plant keeps its old spelling, which looks at every customer's plants.
+    const QString abfrage = ohneKundeUndAnlage(z)
+                                ? QString("SELECT * FROM 0100_Anlage where Name = ''AND Code =''")
+                                : "SELECT * FROM 0100_Anlage where Name = " + literal(z.text("Anlage")) +
+                                      " AND Code =" + literal(z.text("Anlage")) +
+                                      " AND KundeID = " + text(kundeID) +
+                                      " AND Anlagenplaner = " + literal(z.text("Anlagenplaner"));
     const Recordset rs = db().OpenRecordset(abfrage);
     return rs.Eof() ? neueAnlage(z, kundeID) : rs.Field("AnlageID");
 }

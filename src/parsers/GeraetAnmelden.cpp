@@ -5,6 +5,7 @@
 #include "parsers/Dumpkopf.h"
 #include "platform/SettingsStore.h"
 #include "platform/Zahlformat.h"
+#include "store/Literal.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 
@@ -57,9 +58,9 @@ std::optional<qint32> GerätAnmelden(const Gerätefamilie& familie, const Kennun
     if (familie.mitAktuellemPrüfgerät)
         geräteDaten.setField("PrüfgerätID", modul().aktuellesPrüfgerät);
 
-    // The serial number goes into the statement as it stands: an apostrophe in it fails the look-up.
+    // The serial number is the instrument's own text: as a literal it is only ever compared.
     Recordset prüfgeräte =
-        db().OpenRecordset("SELECT * FROM Prüfgerät WHERE Seriennummer = '" + kennung.seriennummer + "'");
+        db().OpenRecordset("SELECT * FROM Prüfgerät WHERE Seriennummer = " + literal(kennung.seriennummer));
     if (!prüfgeräte.Eof()) {
         const double gefunden = zahl(prüfgeräte.Field("PrüfgerätID"));
         alsAktuellesPrüfgerät(geräteDaten, gefunden);

@@ -4,6 +4,7 @@
 #include "platform/Ui.h"
 #include "platform/Zahlformat.h"
 #include "store/Datenbank.h"
+#include "store/Literal.h"
 #include "store/Variant.h"
 
 namespace vemo {
@@ -210,8 +211,9 @@ bool IstKleiner(const QString& alt, const QString& neu) {
 
 namespace {
 TeilFunktionsantwort teilFunktionLesen(const QString& name) {
-    // The function name goes into the statement as it stands: an apostrophe in it fails the look-up.
-    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_TeilFunktion WHERE TeilFunktion = '" + name + "'");
+    // The function name comes from the dump: a literal, whatever it holds.
+    Recordset rs =
+        db().OpenRecordset("SELECT * FROM 0100_TeilFunktion WHERE TeilFunktion = " + literal(name));
     if (rs.Eof())
         return {};
     return {false, rs.Text("spaltenname"), rs.Text("Einheit")};
@@ -247,9 +249,8 @@ TeilFunktionenMerken::~TeilFunktionenMerken() {
 }
 
 Recordset TeilFunktionUKSuchen(const QString& zertifikat, const QString& name) {
-    // Both texts go into the statement as they stand: an apostrophe in one fails the look-up.
-    return db().OpenRecordset("SELECT * FROM 0100_TeilFunktionUK WHERE Zertifikat='" + zertifikat +
-                              "' AND TeilFunktion = '" + name + "'");
+    return db().OpenRecordset("SELECT * FROM 0100_TeilFunktionUK WHERE Zertifikat=" + literal(zertifikat) +
+                              " AND TeilFunktion = " + literal(name));
 }
 
 } // namespace vemo

@@ -1,6 +1,8 @@
 #include "GridUmgebung.h"
 
 #include "grid/ZuordnenDialog.h"
+#include "store/Variant.h"
+#include "support/Fremdtexte.h"
 #include "takeover/Uebernahme.h"
 
 using namespace vemo;
@@ -122,6 +124,23 @@ TEST_F(ZuordnenTest, AnUnknownPlantNumberIsOfferedFirstAndBecomesANewPlantAtTheT
     EXPECT_EQ(anzahl("0100_Anlage"), anlagenVorher + 1);
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Anlage WHERE KundeID = 2 AND Code = '007'"), "1");
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseDaten WHERE GeräteID = 2"), "0");
+}
+
+// The device's plant number is compared as its text: with an apostrophe it finds its plant, and one
+// that reads as a condition or a pattern finds no other and is offered as a new plant.
+TEST_F(ZuordnenTest, APlantNumberIsComparedAsItsText) {
+    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code, Nr, Name) VALUES (9, 2, 'O''Neill-42', '', "
+        "'Hof')");
+    for (const QString& nummer : Fremdtexte) {
+        sql("DELETE FROM \"0100_EinleseDaten\" WHERE GeräteID = 2");
+        neuesteZeilen({nummer});
+        frmZuordnen f;
+        f.kundeKlick(kundeIndex(f, 2));
+        const Zuordnungsliste& anlagen = f.comboAnlage();
+        EXPECT_EQ(vemo::text(anlagen.schlüssel()), nummer == "O'Neill-42" ? "9" : "") << nummer.toStdString();
+        EXPECT_TRUE(anlagen.einträge.value(anlagen.listIndex).text.startsWith(nummer))
+            << nummer.toStdString();
+    }
 }
 
 TEST_F(ZuordnenTest, ACustomerWithoutPlantsLeavesThePlantsEmpty) {

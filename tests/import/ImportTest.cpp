@@ -3,6 +3,7 @@
 #include "host/Modul15a.h"
 #include "import/FormImport.h"
 #include "store/Variant.h"
+#include "support/Fremdtexte.h"
 #include "support/Testumgebung.h"
 
 #include <QDate>
@@ -146,6 +147,30 @@ TEST_F(ImportTest, ImportingTwiceAddsTheInspectionsAgainAndFindsCustomersAndPlan
     EXPECT_EQ(anzahl("0100_Verteiler"), 2);
     EXPECT_EQ(anzahl("0100_Kabeltyp"), kabeltypenVorher + 1);
     EXPECT_EQ(wert("SELECT Count(DISTINCT PrüfungID) FROM 0100_Prüfung"), "6");
+}
+
+// Names that read as a condition or hold an apostrophe make a customer and a plant of their own,
+// stored as they came, found again by the second import, never taken for another customer's.
+TEST_F(ImportTest, NamesAreComparedAsTheirText) {
+    m_quelle->zeile(quellzeile("Praxis Feldmann", "Praxis"));
+    for (const QString& name : Fremdtexte) {
+        QVariantMap z = quellzeile(name, name);
+        z.insert("Anlagenplaner", name);
+        m_quelle->zeile(z);
+    }
+    importieren(m_quelle->pfad());
+    importieren(m_quelle->pfad());
+    EXPECT_EQ(m_ui.texte(), (QStringList{Erfolg, Erfolg}));
+    EXPECT_EQ(anzahl("Kunde"), 1 + Fremdtexte.size());
+    EXPECT_EQ(anzahl("0100_Anlage"), 1 + Fremdtexte.size());
+    for (const QString& name : Fremdtexte) {
+        EXPECT_EQ(wert("SELECT Count(*) FROM Kunde WHERE Name = ? AND Firma = ?", {name, name}), "1");
+        EXPECT_EQ(wert("SELECT Count(*) FROM [0100_Prüfung] AS p JOIN [0100_Anlage] AS a ON p.AnlagenID = "
+                       "a.AnlageID WHERE a.Name = ? AND a.Code = ? AND a.Anlagenplaner = ?",
+                       {name, name, name}),
+                  "2")
+            << name.toStdString();
+    }
 }
 
 TEST_F(ImportTest, TheProgressCountsTheRowsAndEndsAtAHundred) {

@@ -219,21 +219,6 @@ TEST_F(Einlesen, DumpCutShortKeepsTheRowsWrittenSoFar) {
     EXPECT_EQ(anzahl("0100_EinleseMessDaten"), 3);
 }
 
-TEST_F(Einlesen, SerialNumberWithAnApostropheFailsTheLookUp) {
-    textLesen(corvexKopf("4470D    No. 98120'00471"));
-    ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("3075 Syntaxfehler"))
-        << m_ui.meldungen[0].text.toStdString();
-    EXPECT_EQ(modul().Abbruchmerker, 0); // the report's trap shows it and goes on
-    EXPECT_EQ(geschrieben(), 0);
-    textLesen({"-----", "5831     No. 31742'00815", "------"});
-    ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("3075 Syntaxfehler"));
-    EXPECT_EQ(m_ui.meldungen[0].titel, Titel);
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_EQ(geschrieben(), 0);
-}
-
 TEST_F(Einlesen, LoggerRecordAndDumpWithoutBlockGoToTheDataPool) {
     long geräte = 0;
     for (const QString probe : {"corvex-datenlogger.ser", "corvex-ohne-block.ser"}) {

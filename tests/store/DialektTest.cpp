@@ -1,7 +1,9 @@
 #include "store/Dialekt.h"
 #include "platform/Fehler.h"
+#include "store/Literal.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
+#include "support/Fremdtexte.h"
 #include "support/Testumgebung.h"
 
 #include <sqlite3.h>
@@ -54,6 +56,13 @@ TEST(Dialekt, BindsTheLiteralsOfAConditionOnly) {
     EXPECT_EQ(u.sql, "UPDATE t SET a = 1 WHERE b = ?1");
     EXPECT_EQ(u.werte, QVector<QVariant>{QString("x")});
     EXPECT_EQ(übersetzen("DELETE * FROM t WHERE a > 2").werte, QVector<QVariant>{qlonglong(2)});
+
+    // A text from outside, quoted as a literal, is one bound value with every character it holds.
+    for (const QString& t : test::Fremdtexte) {
+        const Übersetzung l = übersetzen("SELECT * FROM t WHERE a = " + literal(t) + " AND b = 1");
+        EXPECT_EQ(l.sql, "SELECT * FROM t WHERE a = ?1 AND b = ?2");
+        EXPECT_EQ(l.werte, (QVector<QVariant>{t, qlonglong(1)}));
+    }
 
     for (const char* bleibt :
          {"SELECT * FROM t WHERE a = ? AND b = 1", "INSERT INTO t SELECT * FROM u WHERE a = 1",
@@ -143,12 +152,13 @@ TEST_F(DialektTest, TheFirstColumnAsTexts) {
 // through the store as through plain SQLite with the literal in place.
 TEST_F(DialektTest, BoundLiteralsFindWhatTheLiteralsFound) {
     sql("INSERT INTO \"0100_Verteiler\" (VerteilerID, \"PrüfungID\", Code, Name) VALUES "
-        "(901, 7, '001', 'Keller'), (902, 7, '1', 'keller'), (903, 8, '10', 'Dach'), (904, 8, 'A', NULL);");
-    const QStringList bedingungen{"Code = '001'",     "Code = 1",         "Code = 1.0",
-                                  "Code = 'a'",       "Name = 'KELLER'",  "PrüfungID = '7'",
-                                  "PrüfungID = 7.0",  "PrüfungID > 7",    "VerteilerID <= 902.5",
-                                  "Code >= '1'",      "Name <> 'Keller'", "PrüfungID = 1/1*7",
-                                  "Code = '1' || '0'"};
+        "(901, 7, '001', 'Keller'), (902, 7, '1', 'keller'), (903, 8, '10', 'Dach'), (904, 8, 'A', NULL), "
+        "(905, 8, 'B', 'O''Neill');");
+    const QStringList bedingungen{"Code = '001'",      "Code = 1",         "Code = 1.0",
+                                  "Code = 'a'",        "Name = 'KELLER'",  "PrüfungID = '7'",
+                                  "PrüfungID = 7.0",   "PrüfungID > 7",    "VerteilerID <= 902.5",
+                                  "Code >= '1'",       "Name <> 'Keller'", "PrüfungID = 1/1*7",
+                                  "Code = '1' || '0'", "Name = 'o''neill'"};
     sqlite3* roh = nullptr;
     ASSERT_EQ(sqlite3_open(m_dbPfad.toUtf8().constData(), &roh), SQLITE_OK);
     for (const QString& b : bedingungen) {
