@@ -2,6 +2,7 @@
 
 #include "platform/Fehler.h"
 #include "store/Datenbank.h"
+#include "store/Literal.h"
 #include "store/Variant.h"
 
 namespace vemo {
@@ -19,9 +20,8 @@ bool replicaGewechselt(const QVariant& gecacht, const QVariant& aktuell) {
 
 // The counter of a table in the replica's range.
 Recordset zählerÖffnen(Datenbank& db, qint64 offsetFaktor, const QString& name) {
-    // The table name goes into the statement as it stands: an apostrophe in it fails the count.
     return db.OpenRecordset("SELECT * FROM IDIncrement WHERE OffsetFaktor = " +
-                            QString::number(offsetFaktor) + " And TabelleName = '" + name + "'");
+                            QString::number(offsetFaktor) + " And TabelleName = " + literal(name));
 }
 
 qint32 weiterzählen(Recordset& z) {

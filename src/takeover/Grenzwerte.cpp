@@ -1,6 +1,7 @@
 #include "takeover/Grenzwerte.h"
 
 #include "core/ModulState.h"
+#include "store/Literal.h"
 #include "store/Transaktion.h"
 #include "store/Variant.h"
 #include "takeover/Grenzwertrechnung.h"
@@ -34,9 +35,8 @@ void standardÜbernehmen(Recordset& rsGrenzwert) {
 }
 
 void isolationNachPrüfspannung(Recordset& rsGrenzwert, const Recordset& rsMessung) {
-    // The test voltage goes into the statement as it stands: an apostrophe in it fails the look-up.
-    const Recordset iso = db().OpenRecordset("SELECT * FROM 0100_GrenzwertISO WHERE Prüfspannung = '" +
-                                             rsMessung.Text("VISO") + "'");
+    const Recordset iso = db().OpenRecordset("SELECT * FROM 0100_GrenzwertISO WHERE Prüfspannung = " +
+                                             literal(rsMessung.Text("VISO")));
     if (!iso.Eof())
         rsGrenzwert.setField("RISO", iso.Text("Grenzwert"));
 }

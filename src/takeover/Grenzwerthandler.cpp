@@ -1,4 +1,5 @@
 #include "core/ModulState.h"
+#include "store/Literal.h"
 #include "takeover/Handler.h"
 
 // Limits that the instrument reports itself. They are written over the limit row after it has
@@ -37,9 +38,8 @@ void erdGrenzwert(Wertlauf& w) {
 // row was built before it arrived. An unknown voltage changes nothing.
 void isolationNachPrüfspannung(Wertlauf& w) {
     w.grenzwertHolen();
-    // The value text goes into the statement as it stands: an apostrophe in it fails the look-up.
     const Recordset iso =
-        db().OpenRecordset("SELECT * FROM 0100_GrenzwertISO WHERE Prüfspannung = '" + w.wertText() + "'");
+        db().OpenRecordset("SELECT * FROM 0100_GrenzwertISO WHERE Prüfspannung = " + literal(w.wertText()));
     if (!iso.Eof())
         grenzwertSetzen(w, "RISO", iso.Text("Grenzwert"));
 }
