@@ -247,6 +247,21 @@ TEST_F(DatenpoolTest, EinDumpOhneArtEndetInDerMeldung) {
     EXPECT_EQ(lesen(pfad("Ruvo.SAV")), lesen(pfad("Ruvo.ser")));
 }
 
+// A picture renamed to a dump, read after a logger series, is no dump: it ends in the message, and
+// the series of the run before is not offered in its place.
+TEST_F(DatenpoolTest, EinBildIstKeinDump) {
+    m_speichern = false;
+    einlesen("corvex-datenlogger.ser");
+    m_ui.dialoge.clear();
+    m_ui.meldungen.clear();
+    schreiben(pfad("bild.ser"), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x10", 20));
+    m_komponente->EinlesenAusDateiName(pfad("bild.ser"));
+    EXPECT_TRUE(m_ui.dialoge.isEmpty()) << m_ui.dialoge.join(", ").toStdString();
+    ASSERT_FALSE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(m_ui.meldungen.last().text, "Messdaten Kopf fehlt") << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+}
+
 // A Kontalex dump's boards from Verteil.txt; each choice puts its rendering in place of the working
 // dump and of the data pool's copy.
 TEST_F(DatenpoolTest, DreiVerteilerSindDreiEinträge) {
