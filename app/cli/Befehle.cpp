@@ -73,28 +73,40 @@ void loggerAusgeben(bool json) {
         aus << m.loggerPrüfungID << Qt::endl;
 }
 
+// The start of a logger series from --start: invalid when not given; false when it is no date.
+bool startLesen(const Optionen& o, QDateTime& start) {
+    start = QDateTime::fromString(o.option("--start").value_or(QString()), "dd.MM.yyyy HH:mm:ss");
+    if (o.option("--start") && !start.isValid()) {
+        ausgeben("vemo0100: --start needs \"DD.MM.YYYY HH:MM:SS\", not " + *o.option("--start"));
+        return false;
+    }
+    return true;
+}
+
+// Reads a dump that may hold a logger series. No window answers the data pool here: the start given
+// stores the series, and without one the data pool is left at once, storing nothing.
+int mitLoggerStart(const Optionen& o, const std::function<void(Sitzung&)>& lesen) {
+    QDateTime start;
+    if (!startLesen(o, start))
+        return 2;
+    return mitKomponente(o, [&](Sitzung& s) {
+        vemo::modul().datenpoolOhneDialog = true;
+        vemo::modul().loggerStart = start;
+        lesen(s);
+        loggerAusgeben(o.schalter("--json"));
+        const bool nichtGespeichert =
+            start.isValid() && vemo::modul().DatenloggerMode && vemo::modul().loggerIDDATLOG == 0;
+        return nichtGespeichert ? 1 : 0;
+    });
+}
+
 int readFile(const Optionen& o) {
     const QString datei = o.argumente.value(0);
     if (datei.isEmpty()) {
         ausgeben("vemo0100: read-file needs the path of a dump");
         return 2;
     }
-    const QDateTime start =
-        QDateTime::fromString(o.option("--start").value_or(QString()), "dd.MM.yyyy HH:mm:ss");
-    if (o.option("--start") && !start.isValid()) {
-        ausgeben("vemo0100: --start needs \"DD.MM.YYYY HH:MM:SS\", not " + *o.option("--start"));
-        return 2;
-    }
-    return mitKomponente(o, [&](Sitzung& s) {
-        // No window answers the data pool here: the start given stores the series.
-        vemo::modul().datenpoolOhneDialog = true;
-        vemo::modul().loggerStart = start;
-        s.komponente().EinlesenAusDateiName(datei);
-        loggerAusgeben(o.schalter("--json"));
-        const bool nichtGespeichert =
-            start.isValid() && vemo::modul().DatenloggerMode && vemo::modul().loggerIDDATLOG == 0;
-        return nichtGespeichert ? 1 : 0;
-    });
+    return mitLoggerStart(o, [&](Sitzung& s) { s.komponente().EinlesenAusDateiName(datei); });
 }
 
 int grid(const Optionen& o) {
@@ -129,10 +141,7 @@ int receive(const Optionen& o) {
         ausgeben("vemo0100: receive needs --port N|PATH");
         return 2;
     }
-    return mitKomponente(o, [](Sitzung& s) {
-        s.komponente().DatenEmpfangen();
-        return 0;
-    });
+    return mitLoggerStart(o, [](Sitzung& s) { s.komponente().DatenEmpfangen(); });
 }
 
 int takeOver(const Optionen& o) {

@@ -12,7 +12,9 @@ const char* const Gebrauch =
     "                [--customer ID] [--plant ID] [--inspection ID] [--yes] COMMAND\n"
     "  read-file FILE [--start \"DD.MM.YYYY HH:MM:SS\"] [--json]\n"
     "                          read a saved dump; --start stores a logger series, --json prints it\n"
-    "  receive                 transfer from the instrument on --port of type --type (Ctrl-C aborts)\n"
+    "  receive [--start \"DD.MM.YYYY HH:MM:SS\"] [--json]\n"
+    "                          transfer from the instrument on --port of type --type (Ctrl-C aborts);\n"
+    "                          --start and --json as for read-file\n"
     "  grid [--json]           refresh and print the read-in rows with the state of each cell\n"
     "  assign --rows A[-B] --column 1..5 --key K     the grid's choice for a selection of rows\n"
     "  delete-rows --rows A[-B]\n"
@@ -59,7 +61,7 @@ struct Befehlsform {
 const std::vector<Befehlsform> befehlsformen{
     {"init-db", 1, {}, {"demo"}},
     {"read-file", 1, {"start"}, {"json"}},
-    {"receive", 0, {}, {}},
+    {"receive", 0, {"start"}, {"json"}},
     {"grid", 0, {}, {"json"}},
     {"assign", 0, {"rows", "column", "key"}, {}},
     {"delete-rows", 0, {"rows"}, {}},

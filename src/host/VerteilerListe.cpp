@@ -48,9 +48,19 @@ void listeSchreiben() {
     }
 }
 
+// The working dump is this record file's rendering or nothing: a dump of an earlier run left there
+// would be read in its place, a logger series for a file that is no dump at all.
+void arbeitsdumpLeeren() {
+    QFile ruvo(arbeitsdatei(datei::Ruvo));
+    if (!ruvo.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        throw fehler::mit(fehler::PfadZugriff, ruvo.fileName());
+}
+
 } // namespace
 
 void VerteilerListeSchreiben() {
+    if (!mitFalle(arbeitsdumpLeeren))
+        return;
     const bool fertig = mitFalle([] {
         const Sanduhr sanduhr;
         modul().selektorTabelle[22] = settings().GetSetting(Abschnitt, Schlüssel, "00000000");

@@ -1,5 +1,7 @@
 #include "language/Tools.h"
 
+#include "language/Registrydatei.h"
+
 #include <QDesktopServices>
 #include <QDir>
 #include <QSettings>
@@ -23,6 +25,14 @@ constexpr Wurzel wurzeln[] = {
     {Tools::HkeyUsers, "HKEY_USERS"},
 };
 
+QSettings::Format registryFormatDerPlattform() {
+#ifdef Q_OS_WIN
+    return QSettings::NativeFormat;
+#else
+    return registryFormat();
+#endif
+}
+
 // A name of the registry's, found without regard to case as the registry finds it; nothing when
 // there is no such name.
 std::optional<QString> gleichnamig(const QStringList& namen, const QString& gesucht) {
@@ -38,7 +48,7 @@ std::unique_ptr<QSettings> schlüssel(const QString& pfad) {
     QStringList teile = pfad.split('\\', Qt::SkipEmptyParts);
     if (teile.isEmpty())
         return nullptr;
-    auto s = std::make_unique<QSettings>(Tools::registryOrt(teile.takeFirst()), QSettings::NativeFormat);
+    auto s = std::make_unique<QSettings>(Tools::registryOrt(teile.takeFirst()), registryFormatDerPlattform());
     for (const QString& teil : std::as_const(teile)) {
         const std::optional<QString> gruppe = gleichnamig(s->childGroups(), teil);
         if (!gruppe)

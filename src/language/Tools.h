@@ -23,10 +23,10 @@ public:
     static bool AnwendungMitDateiStarten(qint32 fenster, const QString& datei, const QString& parameter,
                                          const QString& verzeichnis);
 
-    // What QSettings opens in its native format for a root key ("HKEY_CURRENT_USER"): on Windows the
-    // registry's root key itself; elsewhere, where there is no registry, the ini-style file
-    // vemotrix/registry/HKEY_CURRENT_USER.conf in the user's config folder, whose groups are the
-    // key's subkeys and whose keys its values.
+    // What QSettings opens for a root key ("HKEY_CURRENT_USER"): on Windows the registry's root key
+    // itself; elsewhere, where there is no registry, the ini-style file
+    // vemotrix/registry/HKEY_CURRENT_USER.conf in the user's config folder, whose sections are the
+    // key's subkeys and whose lines its values, read as they stand (see Registrydatei.h).
     static QString registryOrt(const QString& wurzel);
 
     // Opens a subkey of an open key and gives its handle. False when the key cannot be had.

@@ -63,20 +63,24 @@ std::optional<QByteArray> aufErstesStückWarten(CommPort& port) {
     }
 }
 
-// Writes whole buffers as soon as they hold a line end; the empty-line rule looks at a buffer as a
-// whole, so three empty lines end the reception only when each came in a read of its own. What
-// stands in the buffer without a line end at the end is lost.
+// Writes whole buffers as soon as they hold a line end. Three empty lines end the reception only
+// when each came in a read of its own: the rule looks at a buffer as a whole, and a buffer that
+// began with an earlier read is a line the instrument sent at its pace, such as the lines of blanks
+// inside a dump, which arrive in many small reads. What stands in the buffer without a line end at
+// the end is lost.
 void zeilenEmpfangen(CommPort& port, Form2& form, QFile& datei, QByteArray puffer) {
     int leereZeilen = 0;
+    bool eigenerLesevorgang = true; // the buffer holds one read only
     do {
         ui().DoEvents();
         const QByteArray stück = port.Input();
+        eigenerLesevorgang = puffer.isEmpty() || (eigenerLesevorgang && stück.isEmpty());
         puffer += stück;
         if (puffer.contains("\r\n")) {
             form.zeilenAnzeigen(ausAnsi(puffer));
             schreiben(datei, puffer);
             ui().DoEvents();
-            if (nurZeilenende(puffer)) {
+            if (eigenerLesevorgang && nurZeilenende(puffer)) {
                 if (++leereZeilen >= LeerzeilenAmEnde)
                     modul().Empfangsende = 1;
             } else {

@@ -73,7 +73,7 @@ void DatenLogger::reiheLesen(const QDateTime& start) {
     // The head lines follow the line of the logger's mark; a dump without one ends in error 62.
     bool marke = false;
     while (!marke)
-        marke = datei.zeileLesen().contains("LOGGER");
+        marke = istLoggerMarke(datei.zeileLesen());
     const Loggerreihe r = loggerreiheLesen(datei);
     Reihenkopf& kopf = m_datenpool.kopf();
     kopf = {start, r.anzahl, r.intervall, r.maximum, r.minimum};

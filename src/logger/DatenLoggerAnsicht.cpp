@@ -52,6 +52,7 @@ DatenLoggerAnsicht::DatenLoggerAnsicht(DatenLogger& dialog, QWidget* eltern)
     layout->addWidget(label1);
     layout->addLayout(raster);
     layout->addWidget(knöpfe);
+    connect(&dialog, &DialogController::geschlossen, this, [this](int ergebnis) { done(ergebnis); });
     connect(&dialog, &DialogController::aktualisiert, this, &DatenLoggerAnsicht::anzeigen);
     anzeigen();
 }
@@ -89,9 +90,13 @@ void DatenLoggerAnsicht::anzeigen() {
             m_felder[i]->setText(m_dialog->feld(i));
 }
 
+// Escape and the window's close button act as the dialog's cancel button, whose closing of the
+// dialog closes the window; a window whose dialog has closed already just goes.
 void DatenLoggerAnsicht::reject() {
-    if (m_dialog)
+    if (m_dialog && m_dialog->istOffen())
         m_dialog->command2();
+    else
+        QDialog::reject();
 }
 
 } // namespace vemo

@@ -3,6 +3,8 @@
 #include "platform/Textdatei.h"
 #include "platform/Zahlformat.h"
 
+#include <algorithm>
+
 namespace vemo {
 namespace {
 
@@ -39,6 +41,12 @@ bool kopfzeileLesen(const QString& zeile, Loggerreihe& r) {
     return true;
 }
 
+// A line that carries nothing between the mark, the head lines and the values: blank, or a rule of
+// dashes or underscores.
+bool istTrennzeile(const QString& zeile) {
+    return std::none_of(zeile.begin(), zeile.end(), [](QChar c) { return c.isLetterOrNumber(); });
+}
+
 } // namespace
 
 bool istLoggerMarke(const QString& zeile) {
@@ -51,7 +59,7 @@ Loggerreihe loggerreiheLesen(Textdatei& datei) {
     bool imKopf = true;
     while (!datei.eof()) {
         const QString zeile = datei.zeileLesen();
-        if (imKopf && (zeile.trimmed().isEmpty() || kopfzeileLesen(zeile, r)))
+        if (imKopf && (istTrennzeile(zeile) || kopfzeileLesen(zeile, r)))
             continue;
         imKopf = false;
         if (!zahlformat::istNumerisch(zeile.trimmed()))

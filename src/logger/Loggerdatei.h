@@ -7,9 +7,10 @@ namespace vemo {
 
 class Textdatei;
 
-// The logger part of a dump in report form: behind the mark "DATEN LOGGER" four blank lines, the
-// head lines "ANZAHL MEßWERTE = ", "INTERVALL       =  " (seconds), "UL-N(L) MAX     =  " and
-// "UL-N(L) MIN     =  " (volts), then one value a line to the end of the series.
+// The logger part of a dump in report form: behind the mark "DATEN LOGGER" the head lines
+// "ANZAHL MEßWERTE = ", "INTERVALL       =  " (seconds), "UL-N(L) MAX     =  " and
+// "UL-N(L) MIN     =  " (volts), found by their labels whatever blank or separator lines stand
+// before or between them, then one value a line to the end of the series.
 struct Loggerreihe {
     QString anzahl;
     QString intervall;
@@ -24,7 +25,8 @@ struct Loggerreihe {
 bool istLoggerMarke(const QString& zeile);
 
 // Reads the head lines and the values from the line behind the mark on; the series ends with the
-// first line that is no number, or with the file. Reading errors are raised.
+// first line behind its values that is no number, or with the file. A head line missing leaves its
+// caption empty. Reading errors are raised.
 Loggerreihe loggerreiheLesen(Textdatei& datei);
 
 // The seconds of the interval caption ("60"); 0 when it holds no number.

@@ -199,13 +199,9 @@ void Zuordnen::command5() {
         startzeitFragen();
     if (!m_reiheBereit)
         return;
-    bool gespeichert = false;
-    mitFalle([&] {
-        if (!fnVorZuordnenAuswahlPrüfen(m_kopf))
-            return;
-        messreiheSpeichern(m_diagramm);
-        gespeichert = true;
-    });
+    if (!fnVorZuordnenAuswahlPrüfen())
+        return;
+    const bool gespeichert = mitFalle([&] { reiheSpeichern(m_kopf, m_diagramm); });
     if (gespeichert)
         schließen(1);
 }

@@ -55,6 +55,7 @@ ZuordnenAnsicht::ZuordnenAnsicht(Zuordnen& pool, QWidget* eltern) : QDialog(elte
     layout->addWidget(m_zuordnung);
     layout->addWidget(m_diagrammteil);
     layout->addWidget(knöpfe);
+    connect(&pool, &DialogController::geschlossen, this, [this](int ergebnis) { done(ergebnis); });
     connect(&pool, &DialogController::aktualisiert, this, &ZuordnenAnsicht::anzeigen);
     anzeigen();
 }
@@ -169,9 +170,13 @@ void ZuordnenAnsicht::beschriftungenZeigen() {
     m_startzeit->setVisible(p.modus() == "DATEN LOGGER");
 }
 
+// Escape and the window's close button act as the dialog's cancel button, whose closing of the
+// dialog closes the window; a window whose dialog has closed already just goes.
 void ZuordnenAnsicht::reject() {
-    if (m_pool)
+    if (m_pool && m_pool->istOffen())
         m_pool->command4();
+    else
+        QDialog::reject();
 }
 
 } // namespace vemo

@@ -67,7 +67,7 @@ Fehler öffnungsfehler(QSerialPort::SerialPortError fehler, const QString& pfad,
 } // namespace
 
 SeriellerCommPort::SeriellerCommPort(QObject* parent) : CommPort(parent) {
-    connect(&m_port, &QSerialPort::readyRead, this, &SeriellerCommPort::empfangMelden);
+    connect(&m_port, &QSerialPort::readyRead, this, &SeriellerCommPort::datenGekommen);
     connect(&m_port, &QSerialPort::errorOccurred, this, &SeriellerCommPort::fehlerAufgetreten);
 }
 
@@ -77,7 +77,27 @@ SeriellerCommPort::~SeriellerCommPort() {
         m_port.close();
 }
 
+// A fault counted comes before the data it spoiled is reported.
+void SeriellerCommPort::datenGekommen() {
+    leitungsfehlerMelden();
+    empfangMelden();
+}
+
+void SeriellerCommPort::leitungsfehlerMelden() {
+    if (!m_fehlerstand || !m_port.isOpen())
+        return;
+    const std::optional<Leitungsfehlerstand> jetzt = m_zählerquelle(m_port.handle());
+    if (!jetzt)
+        return;
+    for (const int ereignis : leitungsereignisse(*m_fehlerstand, *jetzt))
+        ereignisMelden(ereignis);
+    m_fehlerstand = jetzt;
+}
+
 void SeriellerCommPort::fehlerAufgetreten(QSerialPort::SerialPortError fehler) {
+    if (fehler == QSerialPort::NoError)
+        return;
+    leitungsfehlerMelden();
     if (fehler != QSerialPort::ReadError && fehler != QSerialPort::ResourceError)
         return;
     // The line is gone. The device is let go from the event loop, not from inside its own call.
@@ -99,10 +119,12 @@ void SeriellerCommPort::öffnen() {
         m_port.clearError();
         throw f;
     }
+    m_fehlerstand = m_zählerquelle(m_port.handle());
 }
 
 void SeriellerCommPort::schließen() {
     m_leitungTot = false;
+    m_fehlerstand.reset();
     if (m_port.isOpen())
         m_port.close();
     m_port.clearError();

@@ -1,5 +1,8 @@
 #include "support/Testumgebung.h"
 
+#include "links/LinkHilfen.h"
+
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,15 +26,22 @@ protected:
         EXPECT_TRUE(p.waitForFinished(20000)) << argumente.join(' ').toStdString();
         return {p.exitCode(), p.readAllStandardOutput(), QString::fromLocal8Bit(p.readAllStandardError())};
     }
-    Ergebnis lesen(const QStringList& auswahl, const QStringList& hinten) {
-        return vemo0100(QStringList{"--db", m_db, "--settings", pfad("s.ini"), "--backup", m_dir.path()} +
-                        auswahl + QStringList{"read-file", quelle("samples/corvex-datenlogger.ser")} +
-                        hinten);
+    QStringList global() const {
+        return {"--db", m_db, "--settings", pfad("s.ini"), "--backup", pfad("sicherung")};
     }
+    Ergebnis lesen(const QStringList& auswahl, const QStringList& hinten,
+                   const QString& dump = quelle("samples/corvex-datenlogger.ser")) {
+        return vemo0100(global() + auswahl + QStringList{"read-file", dump} + hinten);
+    }
+    qsizetype kopien() const { return QDir(pfad("sicherung")).entryList(QDir::Files).size(); }
     void SetUp() override {
         Testumgebung::SetUp();
         m_db = pfad("cli.db");
         ASSERT_EQ(vemo0100({"init-db", m_db, "--demo"}).status, 0);
+        ASSERT_TRUE(QDir().mkpath(pfad("sicherung")));
+        // The tests look at what the command line wrote.
+        modul().db.Close();
+        modul().db = Datenbank::OpenDatabase(m_db);
     }
     QString m_db;
 };
@@ -69,6 +79,57 @@ TEST_F(LoggerBefehlTest, OhneAnlageOderStartWirdNichtsGespeichert) {
     EXPECT_TRUE(ohneStart.aus.isEmpty());
 
     EXPECT_EQ(lesen({}, {"--start", "31.02.2026 07:30:00"}).status, 2);
+}
+
+// The head is found by its labels, whatever separator and blank lines stand behind the mark.
+TEST_F(LoggerBefehlTest, EinKopfMitTrennzeile) {
+    QFile dump(pfad("trennzeile.ser"));
+    ASSERT_TRUE(dump.open(QIODevice::WriteOnly));
+    dump.write("RUVO GmbH 0100 Multi    \r\n------------------------\r\n4470D    No. 98120-00471\r\n"
+               "DATEN LOGGER\r\n------------------------\r\n\r\n"
+               "ANZAHL ME\xdfWERTE = 3\r\nINTERVALL       =  10 s\r\n"
+               "UL-N(L) MAX     =  231,0 V\r\nUL-N(L) MIN     =  229,5 V\r\n"
+               "  229,5\r\n  231,0\r\n  230,1\r\n\r\n\r\n\r\n");
+    dump.close();
+    const Ergebnis r = lesen({"--customer", "1", "--plant", "2"},
+                             {"--start", "14.03.2026 07:30:00", "--json"}, dump.fileName());
+    ASSERT_EQ(r.status, 0) << r.fehler.toStdString();
+    const QJsonObject reihe = QJsonDocument::fromJson(r.aus).object();
+    EXPECT_EQ(reihe["count"].toString(), "3");
+    EXPECT_EQ(reihe["interval"].toString(), "10");
+    EXPECT_EQ(reihe["min"].toString(), "229,5");
+    ASSERT_EQ(reihe["points"].toArray().size(), 3);
+    EXPECT_EQ(reihe["points"].toArray()[2].toObject()["time"].toString(), "2026-03-14T07:30:30");
+}
+
+// A logger's memory received from the simulated instrument, a Corvex printing its dump and a
+// Kontalex answering its commands: with --start the series is stored; without it the command line
+// ends at once, saying how to store it, with nothing stored and the numbered copy made all the same.
+TEST_F(LoggerBefehlTest, EmpfangenerLoggerspeicherMitUndOhneStart) {
+    const std::pair<QString, QString> instrumente[] = {{"100", "samples/corvex-datenlogger.ser"},
+                                                       {"101", "samples/pravitonix-datenlogger.sep"}};
+    for (const auto& [typ, speicher] : instrumente) {
+        for (const bool mitStart : {false, true}) {
+            SCOPED_TRACE((typ + (mitStart ? " --start" : "")).toStdString());
+            Simulator sim({"--type", typ, "--memory", quelle(speicher), "--press-after", "0.5", "--link",
+                           pfad("port")});
+            ASSERT_FALSE(sim.gerät().isEmpty());
+            const qsizetype vorher = kopien();
+            const long reihen = anzahl("datlog37");
+            const QStringList start =
+                mitStart ? QStringList{"--start", "14.03.2026 07:30:00"} : QStringList{};
+            const Ergebnis r = vemo0100(global() +
+                                        QStringList{"--customer", "1", "--plant", "2", "--port", pfad("port"),
+                                                    "--type", typ, "receive"} +
+                                        start);
+            EXPECT_EQ(r.status, 0) << r.fehler.toStdString();
+            EXPECT_EQ(kopien(), vorher + 1);
+            EXPECT_EQ(anzahl("datlog37"), reihen + (mitStart ? 1 : 0));
+            EXPECT_EQ(r.fehler.contains("--start"), !mitStart) << r.fehler.toStdString();
+            EXPECT_EQ(r.aus.trimmed().toInt() > 0, mitStart) << r.aus.toStdString();
+        }
+    }
+    EXPECT_EQ(anzahl("messreihe37"), 12);
 }
 
 } // namespace

@@ -2,8 +2,9 @@
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QObject>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QUrl>
 #include <gtest/gtest.h>
@@ -33,18 +34,26 @@ TEST(ToolsTest, DateiGehtAnDenDesktop) {
     EXPECT_EQ(desktop.urls[1], QUrl::fromLocalFile(dir.filePath("Hilfe.pdf")));
 }
 
-// The registry as the platform keeps it, written first into a folder of the test's own.
+// The registry as the platform keeps it, written by hand into a folder of the test's own: a path
+// with backslashes and a list with commas stand there as they would be typed.
 class RegistryTest : public ::testing::Test {
 protected:
     void SetUp() override {
         m_altesConfig = qgetenv("XDG_CONFIG_HOME");
         qputenv("XDG_CONFIG_HOME", m_dir.path().toLocal8Bit());
-        QSettings benutzer(Tools::registryOrt("HKEY_CURRENT_USER"), QSettings::NativeFormat);
-        benutzer.beginGroup("Software/vemotrix/Pfade");
-        benutzer.setValue("Sicherung", "C:\\Daten\\Sicherung");
-        benutzer.setValue("Default", "Pfade der Werkstatt");
-        benutzer.setValue("Mit Null", QString("vorn") + QChar(0) + "hinten");
-        benutzer.setValue("Liste", QStringList{"COM1", "COM2"});
+        const QString ort = Tools::registryOrt("HKEY_CURRENT_USER");
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(ort).path()));
+        QFile datei(ort);
+        ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+        datei.write("; the workshop's paths\n"
+                    "[Software\\vemotrix\\Pfade]\n"
+                    "Sicherung=C:\\Daten\\Sicherung\n"
+                    "Orte = Keller, Dach \"Süd\", Garage\r\n"
+                    "Default=Pfade der Werkstatt\n"
+                    "Mit Null=vorn" +
+                    QByteArray(1, '\0') +
+                    "hinten\n"
+                    "Liste=@ByteArray(COM1 COM2)\n");
     }
     void TearDown() override { qputenv("XDG_CONFIG_HOME", m_altesConfig); }
 
@@ -73,6 +82,8 @@ TEST_F(RegistryTest, SchlüsselUndTexteWerdenGelesen) {
     QString text;
     EXPECT_TRUE(m_tools.WertLesen(pfade, "sicherung", text));
     EXPECT_EQ(text, "C:\\Daten\\Sicherung");
+    EXPECT_TRUE(m_tools.WertLesen(pfade, "Orte", text));
+    EXPECT_EQ(text, "Keller, Dach \"Süd\", Garage");
     EXPECT_TRUE(m_tools.WertLesen(pfade, "", text)); // the key's own value
     EXPECT_EQ(text, "Pfade der Werkstatt");
     EXPECT_TRUE(m_tools.WertLesen(pfade, "Mit Null", text));

@@ -132,6 +132,53 @@ TEST_F(CommPortTest, EchterPortUeberPseudoterminal) {
     EXPECT_FALSE(port.PortOpen());
 }
 
+// The events a port raised until its receive event, which ends each piece of data.
+QList<int> ereignisseBisEmpfang(CommPort& port) {
+    QSignalSpy spion(&port, &CommPort::comm);
+    const QDeadlineTimer frist(1000);
+    while ((spion.isEmpty() || spion.last()[0].toInt() != commEreignis::Empfangen) && !frist.hasExpired())
+        QCoreApplication::processEvents();
+    QList<int> ereignisse;
+    for (const QList<QVariant>& e : spion)
+        ereignisse << e[0].toInt();
+    port.Input();
+    return ereignisse;
+}
+
+// What the driver counts of the line's faults becomes the events the links act on, before the data
+// the fault came with. A pseudo-terminal counts nothing, so a driver that counts is stood in for.
+TEST_F(CommPortTest, LeitungsfehlerDesTreibersWerdenEreignisse) {
+    QString grund;
+    auto pty = sim::PtyLeitung::öffnen(grund);
+    ASSERT_TRUE(pty) << grund.toStdString();
+    SeriellerCommPort port;
+    port.setGerät(pty->gerätePfad());
+    port.setRThreshold(1);
+    Leitungsfehlerstand stand;
+    port.setZählerquelle([&stand](qintptr) { return stand; });
+    port.setPortOpen(true);
+
+    const std::pair<quint32 Leitungsfehlerstand::*, int> fälle[] = {
+        {&Leitungsfehlerstand::überlauf, commEreignis::Überlauf},
+        {&Leitungsfehlerstand::pufferÜberlauf, commEreignis::EmpfangspufferVoll},
+        {&Leitungsfehlerstand::parität, commEreignis::Paritätsfehler},
+        {&Leitungsfehlerstand::rahmen, commEreignis::Rahmenfehler},
+        {&Leitungsfehlerstand::unterbrechung, commEreignis::Unterbrechung},
+    };
+    for (const auto& [zähler, ereignis] : fälle) {
+        stand.*zähler += 2;
+        pty->senden("x");
+        EXPECT_EQ(ereignisseBisEmpfang(port), (QList<int>{ereignis, commEreignis::Empfangen})) << ereignis;
+    }
+    pty->senden("y");
+    EXPECT_EQ(ereignisseBisEmpfang(port), QList<int>{commEreignis::Empfangen}) << "no new fault, no event";
+    stand.überlauf += 1;
+    stand.parität += 1;
+    pty->senden("z");
+    EXPECT_EQ(ereignisseBisEmpfang(port),
+              (QList<int>{commEreignis::Überlauf, commEreignis::Paritätsfehler, commEreignis::Empfangen}));
+}
+
 TEST_F(CommPortTest, PortnummerUndPfadWaehlenDasGeraet) {
     EXPECT_EQ(portGerät(1), "/dev/ttyS0");
     EXPECT_EQ(portGerät(12), "/dev/ttyS11");

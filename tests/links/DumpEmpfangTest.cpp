@@ -83,6 +83,18 @@ TEST_F(DumpEmpfangTest, EinDumpKommtUnverfaelschtUeberDasPseudoterminal) {
     EXPECT_TRUE(m_form.isNull()) << "the wait dialog is unloaded";
 }
 
+// A generated memory printed at the instrument's own pace, whose last line end the pieces on the line
+// used to part between CR and LF, ends the reception by itself with its closing empty lines.
+TEST_F(DumpEmpfangTest, EinErzeugterSpeicherEndetVonSelbst) {
+    Simulator sim({"--type", "100", "--records", "5", "--link", pfad("port")});
+    ASSERT_FALSE(sim.gerät().isEmpty());
+    modul().portPfad = pfad("port");
+    beimDialog(100, [&sim](Form2&) { sim.tasteDrücken(); });
+    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::Weiter);
+    EXPECT_EQ(modul().Abbruchmerker, 0);
+    EXPECT_TRUE(ruvo().startsWith(sim::corvexSpeicher(5)));
+}
+
 TEST_F(DumpEmpfangTest, DreiLeerzeilenInEigenenLesevorgaengenBeenden) {
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
@@ -104,9 +116,10 @@ TEST_F(DumpEmpfangTest, DreiLeerzeilenInEigenenLesevorgaengenBeenden) {
 TEST_F(DumpEmpfangTest, LeerzeilenMitDatenDazwischenOderInEinemStueckBeendenNicht) {
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
-    // Two empty lines, data, two more, then two in one read where the third would be due.
-    const QList<QByteArray> stücke{"A\r\n", CRLF,       CRLF,    "B\r\n",    CRLF,
-                                   CRLF,    "\r\n\r\n", "C\r\n", "halbe Zei"};
+    // Two empty lines, data, two more, then two in one read where the third would be due, then three
+    // lines of blanks, each in two reads as the lines inside a dump come at the instrument's pace.
+    const QList<QByteArray> stücke{"A\r\n", CRLF, CRLF, "B\r\n", CRLF, CRLF,    "\r\n\r\n", "  ",
+                                   CRLF,    "  ", CRLF, "  ",    CRLF, "C\r\n", "halbe Zei"};
     QByteArray textZuletzt;
     bool liefNoch = false;
     beimDialog(10, [&](Form2& form) {
@@ -122,8 +135,8 @@ TEST_F(DumpEmpfangTest, LeerzeilenMitDatenDazwischenOderInEinemStueckBeendenNich
     EXPECT_TRUE(liefNoch);
     // Enter is a success; the half line without its end reaches neither file nor text box.
     EXPECT_EQ(modul().Abbruchmerker, 0);
-    EXPECT_EQ(ruvo(), "A\r\n\r\n\r\nB\r\n\r\n\r\n\r\n\r\nC\r\n");
-    EXPECT_TRUE(textZuletzt.endsWith("\r\n\r\nC\r\n"));
+    EXPECT_EQ(ruvo(), "A\r\n\r\n\r\nB\r\n\r\n\r\n\r\n\r\n  \r\n  \r\n  \r\nC\r\n");
+    EXPECT_TRUE(textZuletzt.endsWith("  \r\nC\r\n"));
 }
 
 TEST_F(DumpEmpfangTest, VorDemErstenByteGehtEsStillUndMitLeererDatei) {

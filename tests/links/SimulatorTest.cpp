@@ -58,6 +58,9 @@ TEST_F(SimulatorTest, GeraetDrucktSeinenSpeicherUndDreiEinzelneLeerzeilen) {
     EXPECT_EQ(reads.join(), gerät.ausdruck());
     EXPECT_EQ(reads.mid(reads.size() - 3), (QList<QByteArray>{"\r\n", "\r\n", "\r\n"}));
     EXPECT_LE(reads.first().size(), 19200 / 10 * 20 / 1000) << "paced, not all at once";
+    // A line end goes on the wire whole: no piece ends between its CR and its LF.
+    for (const QByteArray& stück : reads)
+        EXPECT_FALSE(stück.endsWith('\r')) << stück.toStdString();
 }
 
 TEST_F(SimulatorTest, XoffHaeltDenDruckAnUndXonSetztIhnFort) {

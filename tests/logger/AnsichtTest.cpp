@@ -2,10 +2,14 @@
 
 #include "ansichten/Ansichten.h"
 #include "core/Arbeitsdateien.h"
+#include "core/Geraetetypen.h"
 #include "core/ModulState.h"
+#include "logger/DateiVorbereiten.h"
 #include "logger/DatenLogger.h"
 #include "logger/Zuordnen.h"
+#include "platform/QtUi.h"
 
+#include <QApplication>
 #include <QChart>
 #include <QChartView>
 #include <QCheckBox>
@@ -17,6 +21,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 using namespace vemo;
 
@@ -61,12 +66,6 @@ TEST_F(LoggerAnsichtTest, DerDatenpoolZeigtDieReiheÜberDerZeit) {
     EXPECT_EQ(QDateTime::fromMSecsSinceEpoch(qint64(linie->at(5).x())).toString("HH:mm"), "07:36");
     EXPECT_DOUBLE_EQ(linie->at(5).y(), 232.1);
     EXPECT_TRUE(fenster->findChild<QPushButton*>("Startzeit")->isVisible());
-
-    if (const QByteArray ziel = qgetenv("VEMO_DATENPOOL_BILD"); !ziel.isEmpty()) {
-        fenster->resize(900, 460);
-        QTest::qWait(50);
-        fenster->grab().save(QString::fromLocal8Bit(ziel));
-    }
 }
 
 // A plain dump shows its boards and the options; a click on a board puts its rendering in place, and
@@ -103,6 +102,67 @@ TEST_F(LoggerAnsichtTest, EinEinfacherDumpZeigtVerteilerUndOptionen) {
     fenster->findChild<QCheckBox*>("Option3D1")->setChecked(true);
     EXPECT_EQ(pool.alleVerteiler(), "JA");
     EXPECT_FALSE(text9->isVisible());
+}
+
+// In the window program the date dialog closes on each of its buttons, on Escape and on the window's
+// close button, and the data pool follows with the series in its chart: with its times after
+// "Übernehmen", without after the others.
+TEST_F(LoggerAnsichtTest, DerDatumsdialogSchließtUndDerDatenpoolFolgt) {
+    ASSERT_TRUE(QFile::copy(pfad("Ruvo.SAV"), pfad("Ruvo.ser")));
+    modul().Selektor() = selektor::Deutsch;
+    QtUi qtUi(ansichten());
+    modul().ui = &qtUi;
+    const std::pair<QString, std::function<void(QDialog&)>> wege[] = {
+        {"Command1",
+         [](QDialog& d) { QTest::mouseClick(d.findChild<QPushButton*>("Command1"), Qt::LeftButton); }},
+        {"Command2",
+         [](QDialog& d) { QTest::mouseClick(d.findChild<QPushButton*>("Command2"), Qt::LeftButton); }},
+        {"Escape", [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }},
+        {"Schließfeld", [](QDialog& d) { d.close(); }},
+    };
+    for (const auto& [weg, schließen] : wege) {
+        SCOPED_TRACE(weg.toStdString());
+        QStringList fenster;
+        QString startzeit;
+        qsizetype punkte = -1;
+        QTimer takt;
+        QObject::connect(&takt, &QTimer::timeout, [&] {
+            auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!d || (!fenster.isEmpty() && fenster.last() == d->objectName()))
+                return;
+            fenster << d->objectName();
+            if (d->objectName() == "DatenLogger") {
+                schließen(*d);
+            } else if (d->objectName() == "Zuordnen") {
+                startzeit = d->findChild<QLabel*>("Label5")->text();
+                punkte =
+                    static_cast<QLineSeries*>(d->findChild<QChartView*>()->chart()->series()[0])->count();
+                // The picture of the data pool in the README, as it follows the start given.
+                if (const QByteArray ziel = qgetenv("VEMO_DATENPOOL_BILD");
+                    !ziel.isEmpty() && weg == "Command1") {
+                    d->resize(900, 460);
+                    QTest::qWait(50);
+                    d->grab().save(QString::fromLocal8Bit(ziel));
+                }
+                QTest::mouseClick(d->findChild<QPushButton*>("Command4"), Qt::LeftButton);
+            }
+        });
+        takt.start(50);
+        // A window that does not close is taken away, so that the test ends and says so.
+        QTimer wache;
+        wache.setSingleShot(true);
+        QObject::connect(&wache, &QTimer::timeout, [&] {
+            ADD_FAILURE() << "still open: " << fenster.join(", ").toStdString();
+            if (QWidget* w = QApplication::activeModalWidget())
+                w->hide();
+        });
+        wache.start(10000);
+        DateiVorbereiten(false);
+        EXPECT_EQ(fenster, (QStringList{"DatenLogger", "Zuordnen"}));
+        EXPECT_EQ(punkte, 6);
+        EXPECT_EQ(startzeit.isEmpty(), weg != "Command1") << startzeit.toStdString();
+    }
+    modul().ui = &m_ui;
 }
 
 TEST_F(LoggerAnsichtTest, DieFelderNehmenNurZiffern) {

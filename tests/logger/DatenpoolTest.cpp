@@ -7,6 +7,7 @@
 #include "logger/DatenLogger.h"
 #include "logger/Reihenspeicher.h"
 #include "logger/Zuordnen.h"
+#include "platform/Zahlformat.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 
@@ -83,6 +84,7 @@ protected:
 };
 
 TEST_F(DatenpoolTest, EineReiheWirdEinePrüfungMitIhrenPunkten) {
+    zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
     auswählen(1, 2);
     einlesen("corvex-datenlogger.ser");
     EXPECT_EQ(m_ui.dialoge, (QStringList{"vemo::DatenLogger", "vemo::Zuordnen"}));
@@ -115,6 +117,37 @@ TEST_F(DatenpoolTest, EineReiheWirdEinePrüfungMitIhrenPunkten) {
     }
     EXPECT_EQ(punkte, (QStringList{"07:31:00=231.2", "07:32:00=230.8", "07:33:00=228.4", "07:34:00=229.9",
                                    "07:35:00=233", "07:36:00=232.1"}));
+    EXPECT_EQ(wert("SELECT DISTINCT typeof(wert) FROM messreihe37"), "real")
+        << "a number, not the locale's text";
+}
+
+// A fault while the series is written leaves nothing of it: no inspection, no head row, no
+// certificate record, no equipment. The user is told, and storing again after it stores it once.
+TEST_F(DatenpoolTest, EinFehlerBeimSpeichernLässtNichtsZurück) {
+    auswählen(1, 2);
+    const QStringList tabellen{"0100_Prüfung", "datlog37", "messreihe37", "0100U_CertNic",
+                               "0100_Betriebsmittel"};
+    const auto zählen = [&] {
+        QList<long> n;
+        for (const QString& t : tabellen)
+            n << anzahl(t);
+        return n;
+    };
+    const QList<long> vorher = zählen();
+    sql("CREATE TRIGGER voll BEFORE INSERT ON messreihe37 BEGIN SELECT RAISE(ABORT, 'disk full'); END");
+    einlesen("corvex-datenlogger.ser");
+    EXPECT_EQ(m_ui.meldungen.size(), 1) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(zählen(), vorher);
+
+    sql("DROP TRIGGER voll");
+    m_ui.meldungen.clear();
+    einlesen("corvex-datenlogger.ser");
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    const QList<long> nachher = zählen();
+    EXPECT_EQ(nachher[0], vorher[0] + 1);
+    EXPECT_EQ(nachher[1], 1);
+    EXPECT_EQ(nachher[2], 6);
+    EXPECT_EQ(nachher[3], vorher[3] + 1);
 }
 
 TEST_F(DatenpoolTest, OhneAuftraggeberOderAnlageWirdNichtsGeschrieben) {
@@ -157,9 +190,9 @@ TEST_F(DatenpoolTest, EineLangeReiheZeigtUndSpeichert1995Punkte) {
 
 TEST_F(DatenpoolTest, InAnderenArtenPrüftDieAuswahlNichtsUndSchreibtNichts) {
     modul().datenpoolModus = "Fi-Analyse";
-    EXPECT_TRUE(fnVorZuordnenAuswahlPrüfen({Beginn, "1", "1", "230", "230"}));
+    EXPECT_TRUE(fnVorZuordnenAuswahlPrüfen());
     modul().datenpoolModus.clear();
-    EXPECT_TRUE(fnVorZuordnenAuswahlPrüfen({}));
+    EXPECT_TRUE(fnVorZuordnenAuswahlPrüfen());
     EXPECT_EQ(anzahl("datlog37"), 0);
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
@@ -212,6 +245,21 @@ TEST_F(DatenpoolTest, EinDumpOhneArtEndetInDerMeldung) {
     EXPECT_EQ(modul().Abbruchmerker, 1);
     EXPECT_TRUE(m_ui.dialoge.isEmpty());
     EXPECT_EQ(lesen(pfad("Ruvo.SAV")), lesen(pfad("Ruvo.ser")));
+}
+
+// A picture renamed to a dump, read after a logger series, is no dump: it ends in the message, and
+// the series of the run before is not offered in its place.
+TEST_F(DatenpoolTest, EinBildIstKeinDump) {
+    m_speichern = false;
+    einlesen("corvex-datenlogger.ser");
+    m_ui.dialoge.clear();
+    m_ui.meldungen.clear();
+    schreiben(pfad("bild.ser"), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x10", 20));
+    m_komponente->EinlesenAusDateiName(pfad("bild.ser"));
+    EXPECT_TRUE(m_ui.dialoge.isEmpty()) << m_ui.dialoge.join(", ").toStdString();
+    ASSERT_FALSE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(m_ui.meldungen.last().text, "Messdaten Kopf fehlt") << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(modul().Abbruchmerker, 1);
 }
 
 // A Kontalex dump's boards from Verteil.txt; each choice puts its rendering in place of the working

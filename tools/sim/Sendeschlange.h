@@ -9,8 +9,9 @@
 namespace vemo::sim {
 
 // What an instrument has still to send, handed to the line at the pace of its line speed: in
-// pieces of 20 ms of line time, each when the one before has had its time on the wire. A text may
-// be followed by a pause of silence. At 0 baud each text goes at once, whole.
+// pieces of 20 ms of line time, each when the one before has had its time on the wire; a piece never
+// ends between the CR and the LF of a line end. A text may be followed by a pause of silence. At
+// 0 baud each text goes at once, whole.
 class Sendeschlange : public QObject {
     Q_OBJECT
 public:
