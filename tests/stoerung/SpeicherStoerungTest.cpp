@@ -287,6 +287,30 @@ TEST_F(SpeicherStoerungTest, VolleFestplatteBeiDerUebernahmeVerliertNichts) {
     wiederholtWieUngestört(erwartet);
 }
 
+// The disk runs full just as the value mapping writes a value: that is no value the mapping cannot
+// place, so its silent trap must not take it for one and let the row go without the value.
+TEST_F(SpeicherStoerungTest, VolleFestplatteInDerWertzuordnungVerliertNichts) {
+    const QStringList erwartet = ungestört(20);
+
+    neueDatenbank(true);
+    zuordnungsfertigeZeilen(20);
+    sql("CREATE TABLE Ballast (Inhalt BLOB)");
+    übernehmen([&](int zeile) {
+        if (zeile != 10)
+            return;
+        sql("CREATE TRIGGER Platzfresser BEFORE UPDATE OF RISO ON \"0100_Messung\" WHEN NEW.RISO IS NOT NULL "
+            "BEGIN INSERT INTO Ballast VALUES (randomblob(1000000)); END; PRAGMA max_page_count = " +
+            wert("PRAGMA page_count"));
+    });
+    alleMeldungenSind("3013");
+    EXPECT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 11) << "the row in hand stays read in";
+    geblieben();
+
+    sql("DROP TRIGGER Platzfresser; PRAGMA max_page_count = 1073741823;");
+    wiederholtWieUngestört(erwartet);
+}
+
 // The command line's take-over killed (a power cut, kill -9) at several points of its run: each
 // row is taken over whole or not at all, and the rows waiting for the inspection the run made know
 // it, so that the repeated run makes no second one.
