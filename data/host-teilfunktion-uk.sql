@@ -20,7 +20,8 @@ INSERT INTO "0100_TeilfunktionUK" (TeilFunktion, Tabelle, SpaltenName, Prozedur,
   ('m_LOOPRS', '0100_Verteiler', 'ZsMax', 'MaxBoard', 'Niceic'),
   ('m_LOOPRS', '0100U_CertNic', 'ZsMax', 'MaxRoot', 'Niceic');
 
--- Prospective fault current: the greatest at each board and in the installation.
+-- Prospective fault current: the greatest at each board and in the installation, in kA (the
+-- take-over converts a value given in A before it compares).
 INSERT INTO "0100_TeilfunktionUK" (TeilFunktion, Tabelle, SpaltenName, Prozedur, Zertifikat) VALUES
   ('Z LOOP, M, Isc', '0100_Verteiler', 'IpfMax', 'MaxBoard', 'Niceic'),
   ('Z LOOP, M, Isc', '0100U_CertNic', 'IpfMax', 'MaxRoot', 'Niceic'),

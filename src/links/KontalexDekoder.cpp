@@ -92,10 +92,12 @@ void KontalexDekoder::dekodieren(const QByteArray& dump,
         if (anfang < 0 || anfang + Kopflänge > dump.size())
             return;
         const int länge = quint8(dump[anfang + Kopflänge - 1]);
+        // A block of length 0 is the end of the memory. The block a logger's memory announces
+        // behind it is fetched and kept in the raw file, but it is no location.
+        if (länge == 0)
+            return;
         pos = anfang + Kopflänge + länge;
-        // A block of length 0 is the end of the memory and holds no group.
-        if (länge > 0)
-            ablage(gruppeLesen(dump.mid(anfang + Kopflänge, länge)));
+        ablage(gruppeLesen(dump.mid(anfang + Kopflänge, länge)));
     }
 }
 

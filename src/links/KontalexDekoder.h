@@ -36,10 +36,10 @@ struct Ortsgruppe {
 // nothing. Function code 102 is the data logger's. Codes outside a table raise error 9.
 QList<Messzeile> messzeilenLesen(const QByteArray& bytes, const Namentabellen& namen, bool& loggerDaten);
 
-// Walks the blocks of a memory, as the model lays them out, and hands on each location group in
-// turn, so that a code out of bounds (error 9, raised) leaves the groups before it delivered. The
-// number texts are at least three digits and left blank where they repeat the group before: the
-// object alone, the circuit with its object, the place with both.
+// Walks the blocks of a memory up to its empty end block, as the model lays them out, and hands on
+// each location group in turn, so that a code out of bounds (error 9, raised) leaves the groups before it
+// delivered. The number texts are at least three digits and left blank where they repeat the group before:
+// the object alone, the circuit with its object, the place with both.
 class KontalexDekoder {
 public:
     // anlagenText: the object text of the models that don't number their objects.

@@ -42,15 +42,6 @@ void Einleseblöcke::neuerWert(qint32 messungID, const QVariant& funktion, const
     m_messDaten.Update();
 }
 
-std::optional<qint32> Einleseblöcke::letzterBlockMit(const QString& stromkreisNr) {
-    if (m_daten.Bof() && m_daten.Eof())
-        return std::nullopt;
-    m_daten.MoveLast();
-    if (m_daten.Text("StromkreisNr") != stromkreisNr)
-        return std::nullopt;
-    return qint32(ganzzahl(m_daten.Field("MessungID")));
-}
-
 QString vierstellig(const QString& nummer) {
     return QString("0000" + nummer).right(4);
 }

@@ -3,7 +3,6 @@
 #include "store/Recordset.h"
 
 #include <QString>
-#include <optional>
 
 namespace vemo {
 
@@ -29,8 +28,6 @@ public:
     qint32 neuerBlock(qint32 geräteID, const QString& verteilerNr, const QString& stromkreisNr);
     // A value of a block; a column given no value (an invalid QVariant) keeps its default.
     void neuerWert(qint32 messungID, const QVariant& funktion, const QVariant& wert, const QVariant& einheit);
-    // The MessungID of the read-in table's last row when that row has the circuit number.
-    std::optional<qint32> letzterBlockMit(const QString& stromkreisNr);
 
 private:
     Recordset m_daten;

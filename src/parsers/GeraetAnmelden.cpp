@@ -38,12 +38,27 @@ double registrieren(Recordset& prüfgeräte, const Gerätefamilie& familie, cons
 
 } // namespace
 
-Kennung kennzeileZerlegen(const QString& zeile) {
+QString kennungName(const QString& zeile) {
+    const qsizetype erstes = zeile.indexOf(',');
+    if (erstes < 0)
+        throw fehler::mit(fehler::UngültigerAufruf);
+    return zeile.left(erstes);
+}
+
+QString kennungVersion(const QString& zeile) {
     const qsizetype erstes = zeile.indexOf(',');
     const qsizetype letztes = zeile.lastIndexOf(',');
     if (erstes < 0 || letztes == erstes)
         throw fehler::mit(fehler::UngültigerAufruf);
-    return {zeile.left(erstes), zeile.mid(erstes + 1, letztes - erstes - 1), zeile.mid(letztes + 1)};
+    return zeile.mid(erstes + 1, letztes - erstes - 1);
+}
+
+QString kennungSeriennummer(const QString& zeile) {
+    return zeile.mid(zeile.lastIndexOf(',') + 1);
+}
+
+Kennung kennzeileZerlegen(const QString& zeile) {
+    return {kennungName(zeile), kennungVersion(zeile), kennungSeriennummer(zeile)};
 }
 
 std::optional<qint32> GerätAnmelden(const Gerätefamilie& familie, const Kennung& kennung) {
@@ -53,8 +68,8 @@ std::optional<qint32> GerätAnmelden(const Gerätefamilie& familie, const Kennun
     geräteDaten.setField("GeräteID", geräteID);
     geräteDaten.setField("PrüfgerätName", familie.name.isEmpty() ? kennung.name : familie.name);
     geräteDaten.setField("Seriennummer", kennung.seriennummer);
-    if (!kennung.version.isEmpty())
-        geräteDaten.setField("Versionsnummer", kennung.version);
+    if (kennung.version)
+        geräteDaten.setField("Versionsnummer", *kennung.version);
     if (familie.mitAktuellemPrüfgerät)
         geräteDaten.setField("PrüfgerätID", modul().aktuellesPrüfgerät);
 

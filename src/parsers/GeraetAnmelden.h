@@ -29,16 +29,23 @@ inline Gerätefamilie abfrageprotokoll(qint16 typ) {
 }
 } // namespace familie
 
-// What an instrument tells of itself.
+// What an instrument tells of itself. A family whose head names no version leaves the column
+// Null; a version the instrument left empty is an empty text.
 struct Kennung {
     QString name;
-    QString version;
+    std::optional<QString> version;
     QString seriennummer;
 };
 
 // The identification line "name,version,serial": the name before the first comma, the serial number
 // behind the last, the version between. A line with fewer than two commas raises error 5.
 Kennung kennzeileZerlegen(const QString& zeile);
+// Its parts one at a time, for a parser that goes on behind a failed part. The name needs a comma
+// behind it, the version a comma on either side (error 5 otherwise); a line without comma is the
+// serial number as a whole.
+QString kennungName(const QString& zeile);
+QString kennungVersion(const QString& zeile);
+QString kennungSeriennummer(const QString& zeile);
 
 // The header step of a parser: adds the read-in's row to 0100_EinleseGeräteDaten and looks the
 // serial number up in the register. A known instrument becomes the current one

@@ -197,12 +197,11 @@ void SorelinLauf::messungenLesen(qint32 geräteID) {
     }
 }
 
-// A circuit whose number the last read-in row already has adds no row: its values join that row.
+// Each circuit of the image is a row of its own. The numbers of one image only rise, so the last
+// row of the table with the same number always belongs to an earlier read-in, perhaps of another
+// instrument: its values stay apart from this one's.
 qint32 SorelinLauf::stromkreisZeile(qint32 geräteID, int zähler) {
-    const QString nummer = vierstellig(QString::number(zähler));
-    if (const auto letzter = m_blöcke->letzterBlockMit(nummer))
-        return *letzter;
-    return m_blöcke->neuerBlock(geräteID, "0001", nummer);
+    return m_blöcke->neuerBlock(geräteID, "0001", vierstellig(QString::number(zähler)));
 }
 
 // The rows of one measurement block, value by value, then what its settings add.

@@ -39,6 +39,8 @@ public:
     void lesen();
 
 private:
+    bool anmelden(const QString& kennzeile);
+    Kennung kennung(const QString& kennzeile);
     void satzLesen(const QString& zeile);
     bool speicherGültig(const Datensatz& satz);
     Blockkopf kopf(const Datensatz& satz);
@@ -74,11 +76,8 @@ QString zeileMitAnfang(Textdatei& datei, const QString& anfang) {
 
 void Speicherleser::lesen() {
     Textdatei datei(arbeitsdatei(datei::Ruvo));
-    const QString kennzeile = zeileMitAnfang(datei, m_v.familienwort);
-    const auto geräteID = GerätAnmelden(familie::abfrageprotokoll(m_v.typ), kennzeileZerlegen(kennzeile));
-    if (!geräteID)
+    if (!anmelden(zeileMitAnfang(datei, m_v.familienwort)))
         return;
-    m_geräteID = *geräteID;
     zeileMitAnfang(datei, "QD 2");
     QString zeile = datei.zeileLesen();
     m_blöcke.emplace();
@@ -88,6 +87,26 @@ void Speicherleser::lesen() {
         satzLesen(zeile);
         zeile = anweisung([&] { return datei.zeileLesen(); }).value_or(QString());
     } while (!datei.eof());
+}
+
+// The header is a statement like any other: for the model that goes on behind a failure, a
+// malformed identification line costs the parts it lacks and the records behind it are read all
+// the same, on GeräteID 0 where the header itself failed.
+bool Speicherleser::anmelden(const QString& kennzeile) {
+    const Kennung k = kennung(kennzeile);
+    const auto geräteID = anweisung([&] { return GerätAnmelden(familie::abfrageprotokoll(m_v.typ), k); });
+    if (geräteID && !*geräteID)
+        return false;
+    m_geräteID = geräteID ? **geräteID : 0;
+    return true;
+}
+
+// Each part of the line is read for itself; a part that failed is empty.
+Kennung Speicherleser::kennung(const QString& kennzeile) {
+    const auto teil = [&](QString (*lesen)(const QString&)) {
+        return anweisung([&] { return lesen(kennzeile); }).value_or(QString(""));
+    };
+    return {teil(kennungName), teil(kennungVersion), teil(kennungSeriennummer)};
 }
 
 void Speicherleser::satzLesen(const QString& zeile) {

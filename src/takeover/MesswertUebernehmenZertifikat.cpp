@@ -1,6 +1,7 @@
 #include "takeover/MesswertUebernehmenZertifikat.h"
 
 #include "core/ModulState.h"
+#include "platform/Zahlformat.h"
 #include "store/Recordset.h"
 #include "store/Transaktion.h"
 #include "store/Variant.h"
@@ -53,11 +54,37 @@ Recordset zuordnungÖffnen(const QVariant& messungID) {
         " ORDER BY [0100_EinleseMessDaten].rowid, [0100_TeilfunktionUK].TeilfunktionUKID");
 }
 
+// The certificate records the prospective fault current in kA, and values are compared without
+// their unit: a current an instrument gives in A goes over to kA first, its sign kept, or 657 A
+// would beat 0,82 kA.
+bool istFehlerstromspalte(const QString& spalte) {
+    return spalte.compare("IpfMax", Qt::CaseInsensitive) == 0;
+}
+
+QVariant inKiloampere(const QVariant& wert, const QString& einheit) {
+    if (einheit.trimmed().compare("A", Qt::CaseInsensitive) != 0)
+        return wert;
+    QString w = text(wert).trimmed();
+    QString zeichen;
+    if (w.startsWith('>') || w.startsWith('<')) {
+        zeichen = w.left(1);
+        w = w.mid(1).trimmed();
+    }
+    const auto ampere = zahlformat::zahl(w);
+    return ampere ? QVariant(zeichen + zahlformat::text(*ampere / 1000)) : wert;
+}
+
+Zertifikatswert zertifikatswert(const Recordset& rs) {
+    Zertifikatswert w{rs.Text("tabelle"), rs.Text("spaltenname"), rs.Field("wert")};
+    if (istFehlerstromspalte(w.spaltenname))
+        w.wert = inKiloampere(w.wert, rs.Text("einheit"));
+    return w;
+}
+
 void zuordnen(const QVariant& messungID, const Zertifikatsschlüssel& schlüssel) {
     Zertifikatslauf lauf{schlüssel, {}};
     for (Recordset rs = zuordnungÖffnen(messungID); !rs.Eof(); rs.MoveNext())
-        prozedurAusführen(lauf, rs.Text("prozedur"),
-                          {rs.Text("tabelle"), rs.Text("spaltenname"), rs.Field("wert")});
+        prozedurAusführen(lauf, rs.Text("prozedur"), zertifikatswert(rs));
 }
 
 qint64 schlüssel(const QVariant& v) {

@@ -32,8 +32,10 @@ qint32 ZertifikatsprüfungAnlegen(const QVariant& anlageID) {
 
 bool istZertifikat(const QVariant& prüfungID) {
     const Recordset rs = db().OpenRecordset("SELECT typ FROM 0100_Prüfung WHERE PrüfungID = ?", {prüfungID});
-    const QString typ = rs.Eof() ? QString() : rs.Text("typ");
-    return !typ.isEmpty() && typ != "DACH" && typ != "DACH2010";
+    if (rs.Eof())
+        return false;
+    const QVariant typ = rs.Field("typ");
+    return !istLeer(typ) && text(typ) != "DACH" && text(typ) != "DACH2010";
 }
 
 } // namespace vemo

@@ -13,8 +13,8 @@ void ZertifikatssatzAnlegen(const QVariant& prüfungID);
 // equipment table of the current language; its key. Store errors go to the caller.
 qint32 ZertifikatsprüfungAnlegen(const QVariant& anlageID);
 
-// Whether the inspection's values go into a certificate: its typ is neither empty nor one of the
-// two inspection records of the norm.
+// Whether the inspection's values go into a certificate: its typ is set (an empty text counts) and
+// is neither of the two inspection records of the norm.
 bool istZertifikat(const QVariant& prüfungID);
 
 } // namespace vemo

@@ -368,6 +368,14 @@ TEST_F(Zemak, AFailureEndsTheReadButThe3710GoesOnStatementByStatement) {
     EXPECT_EQ(m_ui.texte(), QStringList());
     // Field 8, the mode word, is field 4; the attribute in field 5 is field 1.
     EXPECT_EQ(blöcke().last(), "0005 0006: Re=614,4 Ohm");
+    // An identification line without version costs the 3710 the version alone, kept as empty text.
+    textLesen(selektor::Zemak, speicher("ZEMAK 3710,3710042", {"05,07,0,1800"}));
+    EXPECT_TRUE(m_ui.texte().size() == 1 && m_ui.texte()[0].startsWith("5 "))
+        << m_ui.texte().join('\n').toStdString();
+    EXPECT_EQ(blöcke().last(), "0005 0007: Re=614,4 Ohm");
+    EXPECT_EQ(spalte(db().OpenRecordset("SELECT * FROM 0100_EinleseGeräteDaten ORDER BY GeräteID DESC"),
+                     "Versionsnummer"),
+              "");
     lesen3720({"04B2,0065,0,0012,00"});
     EXPECT_EQ(m_ui.texte(), QStringList{"9 Index außerhalb des gültigen Bereichs (Feld 10)"});
 }
