@@ -168,7 +168,9 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Grenzwerte', 'Limit values'),
   ('Grenzwert', 'Limit value'),
   ('Text', 'Text'),
-  ('Neue Demo-Datenbank', 'New demo database');
+  ('Neue Demo-Datenbank', 'New demo database'),
+  ('Zuerst eine Datenbank wählen.', 'Choose a database first.'),
+  ('vemotrix-Datenbank', 'vemotrix database');
 
 -- The grid's commands on the command line: the legend and the refusals.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
