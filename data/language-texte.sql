@@ -141,7 +141,10 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Feld hinter FI 2 ist nicht leer, enthält ', 'Field after RCD 2 is not empty, holds '),
   (' Datei enthält Fehler, kann nicht Importiert werden.', ' File contains errors, cannot be imported.'),
   ('vemotrix 0100', 'vemotrix 0100'),
-  ('Die eingelesenen Messungen des Geräts jetzt zuordnen?', 'Assign the device''s read-in measurements now?');
+  ('Die eingelesenen Messungen des Geräts jetzt zuordnen?', 'Assign the device''s read-in measurements now?'),
+  ('Kontalex-Rohdaten', 'Kontalex raw data'),
+  ('Kontalex-Datensätze', 'Kontalex records'),
+  ('Alle Dateien', 'All files');
 
 -- Captions of the host program.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
@@ -165,7 +168,9 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Grenzwerte', 'Limit values'),
   ('Grenzwert', 'Limit value'),
   ('Text', 'Text'),
-  ('Neue Demo-Datenbank', 'New demo database');
+  ('Neue Demo-Datenbank', 'New demo database'),
+  ('Zuerst eine Datenbank wählen.', 'Choose a database first.'),
+  ('vemotrix-Datenbank', 'vemotrix database');
 
 -- The grid's commands on the command line: the legend and the refusals.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES

@@ -10,6 +10,7 @@
 #include "language/SprachDatenbank.h"
 #include "platform/SettingsStore.h"
 #include "platform/Ui.h"
+#include "store/Datenbank.h"
 #include "store/Schema.h"
 
 #include <QFileInfo>
@@ -39,7 +40,8 @@ const QStringList SprachenListe{"Deutsch", "Deutsch (&Deutschland)", "Deutsch (&
                                 "English (United Kingdom)"};
 } // namespace
 
-Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstellungen)
+Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstellungen,
+                           const QString& datenbank)
     : m_komponente(komponente), m_einstellungen(einstellungen) {
     auto* mitte = new QWidget;
     auto* layout = new QVBoxLayout(mitte);
@@ -54,9 +56,10 @@ Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstell
     m_typ->setCurrentIndex(std::max(0, m_typ->findData(gemerkt("Typ", "100").toInt())));
     m_backup->setText(gemerkt("Backup"));
     eigenschaftenÜbernehmen();
-    if (const QString db = gemerkt("Datenbank"); !db.isEmpty())
-        datenbankSetzen(db);
-    else
+    const QString gemerkteDb = gemerkt("Datenbank");
+    const bool geöffnet = (!datenbank.isEmpty() && datenbankSetzen(datenbank)) ||
+                          (!gemerkteDb.isEmpty() && datenbankSetzen(gemerkteDb));
+    if (!geöffnet)
         beschriften();
     resize(1100, 700);
 }
@@ -81,11 +84,8 @@ QWidget* Hauptfenster::eigenschaftenBauen() {
     m_datenbank = new QLineEdit;
     m_datenbank->setReadOnly(true);
     auto* wählen = new QPushButton("...");
-    connect(wählen, &QPushButton::clicked, this, [this] {
-        const QString p = QFileDialog::getOpenFileName(this, xText("Datenbank"), m_datenbank->text());
-        if (!p.isEmpty())
-            datenbankSetzen(p);
-    });
+    wählen->setObjectName("DatenbankWaehlen");
+    connect(wählen, &QPushButton::clicked, this, &Hauptfenster::datenbankWählen);
     zeile("Datenbank", m_datenbank, wählen);
     m_sprache = new QComboBox;
     m_sprache->addItems(SprachenListe);
@@ -138,7 +138,7 @@ void Hauptfenster::menüsBauen() {
              Zertifikatswerte::ergebnisseZeigen(this);
          }},
         {"Einlesen aus Datei", [this, &k] { nachEinlesen([&k] { k.EinlesenAusDatei(); }); }},
-        {"Datenlogger", [&k] { k.DatenLogger(); }},
+        {"Datenlogger", [&k] { k.DatenLogger(); }, false},
         {"Daten importieren", [&k] { k.DatenImportieren(); }},
         {"Einstellung ZEMAK 3710", [&k] { k.EinstellungZemak3710(); }},
         {"Textbreite messen",
@@ -147,12 +147,11 @@ void Hauptfenster::menüsBauen() {
              qint32 breite = 0;
              k.vmxTextWidth(t, breite);
              statusBar()->showMessage(QString("%1: %2").arg(t).arg(breite));
-         }},
+         },
+         false},
     };
-    for (Befehl& b : m_befehle) {
-        const auto ausführen = b.ausführen;
-        b.aktion = m_befehlsMenü->addAction(QString(), this, [this, ausführen] { befehl(ausführen); });
-    }
+    for (Befehl& b : m_befehle)
+        b.aktion = m_befehlsMenü->addAction(QString(), this, [this, b] { befehl(b); });
 }
 
 void Hauptfenster::beschriften() {
@@ -169,10 +168,30 @@ void Hauptfenster::beschriften() {
 }
 
 // Runs a public method, then shows what it changed.
-void Hauptfenster::befehl(const std::function<void()>& ausführen) {
+void Hauptfenster::befehl(const Befehl& b) {
     eigenschaftenÜbernehmen();
-    ausführen();
+    if (b.brauchtDatenbank && !datenbankDa())
+        return;
+    b.ausführen();
     m_übersicht->aktualisieren();
+}
+
+// Without a database the component has nothing to work on: the user is told so and may choose
+// one at once, and the command goes on with it.
+bool Hauptfenster::datenbankDa() {
+    if (m_komponente.vemotrixDB().istOffen())
+        return true;
+    const MsgStil wahl{MsgKnöpfe::OkAbbrechen, MsgSymbol::Information, 1};
+    if (ui().MsgBox(xText("Zuerst eine Datenbank wählen."), modul().anwendungstitel, wahl) != antwort::Ok)
+        return false;
+    return datenbankWählen();
+}
+
+bool Hauptfenster::datenbankWählen() {
+    const QString filter = xText("vemotrix-Datenbank") + " (*.db)|*.db|" + xText("Alle Dateien") + " (*)|*";
+    const auto pfad =
+        ui().dateiÖffnen({xText("Datenbank"), filter, QFileInfo(m_datenbank->text()).absolutePath(), "db"});
+    return pfad && datenbankSetzen(*pfad);
 }
 
 // The key of the newest read-in device; empty when there is none.
@@ -203,10 +222,17 @@ void Hauptfenster::nachEinlesen(const std::function<void()>& einlesen) {
     m_komponente.EinleseDaten();
 }
 
-void Hauptfenster::datenbankSetzen(const QString& pfad) {
+// A file that cannot be the database is refused before the open one is let go, so the user goes
+// on with the database he had.
+bool Hauptfenster::datenbankSetzen(const QString& pfad) {
+    if (!datenbankBrauchbar(pfad))
+        return false;
     m_komponente.setVemotrixDBName(pfad);
-    if (!m_komponente.vemotrixDB().istOffen())
-        return;
+    if (!m_komponente.vemotrixDB().istOffen()) {
+        m_datenbank->clear();
+        m_übersicht->aktualisieren();
+        return false;
+    }
     m_datenbank->setText(pfad);
     merken("Datenbank", pfad);
     if (m_backup->text().isEmpty()) {
@@ -215,6 +241,13 @@ void Hauptfenster::datenbankSetzen(const QString& pfad) {
     }
     // The language is written after the database, whose directory holds the language database.
     spracheSetzen(gemerkt("Sprache", "Deutsch (&Deutschland)"));
+    return true;
+}
+
+// The same test the component makes when it opens a database (a database file with customers),
+// made on a connection of its own; the error shows as the component shows it.
+bool Hauptfenster::datenbankBrauchbar(const QString& pfad) const {
+    return mitFalle([&] { Datenbank::OpenDatabase(pfad).TableDefs("Kunde"); });
 }
 
 void Hauptfenster::spracheSetzen(const QString& sprache) {

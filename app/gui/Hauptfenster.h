@@ -21,22 +21,28 @@ class SettingsStore;
 class Hauptfenster : public QMainWindow {
     Q_OBJECT
 public:
-    Hauptfenster(vemo0100Modul15a& komponente, vemo::SettingsStore& einstellungen);
+    // datenbank: the one named on the command line; otherwise the one last used is opened.
+    Hauptfenster(vemo0100Modul15a& komponente, vemo::SettingsStore& einstellungen,
+                 const QString& datenbank = {});
 
 private:
     struct Befehl {
         QString text;
         std::function<void()> ausführen;
+        bool brauchtDatenbank = true;
         QAction* aktion = nullptr;
     };
 
     QWidget* eigenschaftenBauen();
     void menüsBauen();
     void beschriften();
-    void befehl(const std::function<void()>& ausführen);
+    void befehl(const Befehl& b);
+    bool datenbankDa();
+    bool datenbankWählen();
+    bool datenbankBrauchbar(const QString& pfad) const;
     void nachEinlesen(const std::function<void()>& einlesen);
     QString neuestesGerät() const;
-    void datenbankSetzen(const QString& pfad);
+    bool datenbankSetzen(const QString& pfad);
     void spracheSetzen(const QString& sprache);
     void eigenschaftenÜbernehmen();
     void merken(const QString& schlüssel, const QString& wert);

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTableView>
@@ -176,16 +177,8 @@ void EinleseDatenAnsicht::zeigen() {
     const EinleseGrid& g = m_formular.grid();
     if (!g.Redraw)
         return;
-    m_abgleich = true;
-    m_modell->neuLaden();
-    for (int spalte = 0; spalte < EinleseGrid::Cols; ++spalte) {
-        const int breite = pixel(g.ColWidth(spalte));
-        m_tabelle->setColumnHidden(spalte, breite == 0);
-        if (breite > 0)
-            m_tabelle->setColumnWidth(spalte, breite);
-    }
-    auswahlZeigen();
-    m_abgleich = false;
+    if (!m_auswahlDerTabelle)
+        gridZeigen();
 
     const Schaltflächen& k = m_formular.schaltflächen();
     m_übernehmen->setEnabled(k.übernehmen);
@@ -202,6 +195,20 @@ void EinleseDatenAnsicht::zeigen() {
     m_fortschritt->setVisible(p.sichtbar);
     m_anzahlZeilen->setText(m_formular.anzahlZeilen());
     comboZeigen();
+}
+
+void EinleseDatenAnsicht::gridZeigen() {
+    const EinleseGrid& g = m_formular.grid();
+    m_abgleich = true;
+    m_modell->neuLaden();
+    for (int spalte = 0; spalte < EinleseGrid::Cols; ++spalte) {
+        const int breite = pixel(g.ColWidth(spalte));
+        m_tabelle->setColumnHidden(spalte, breite == 0);
+        if (breite > 0)
+            m_tabelle->setColumnWidth(spalte, breite);
+    }
+    auswahlZeigen();
+    m_abgleich = false;
 }
 
 void EinleseDatenAnsicht::auswahlZeigen() {
@@ -286,6 +293,10 @@ void EinleseDatenAnsicht::auswahlGeaendert() {
     a.ColSel = aktuell.column();
     a.Row = (aktuell.row() == r.top() ? r.bottom() : r.top()) + 1;
     a.Col = aktuell.column() == r.left() ? r.right() : r.left();
+    // The table shows this selection already. Loading the grid again in the middle of the table's
+    // own handling of a click would drop the cell being pressed, and the table would then select
+    // from the last selection's anchor (after an assignment, the assigned cell) to the click.
+    const QScopedValueRollback eigene(m_auswahlDerTabelle, true);
     m_formular.gridAuswahl(a);
 }
 

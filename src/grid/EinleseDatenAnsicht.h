@@ -35,6 +35,7 @@ private:
     void aufbauen();
     void verbinden();
     void zeigen();
+    void gridZeigen();
     void auswahlZeigen();
     void comboZeigen();
     void anpassen();
@@ -57,8 +58,9 @@ private:
     QProgressBar* m_fortschritt = nullptr;
     QLabel* m_anzahlZeilen = nullptr;
     QLabel* m_hilfetext = nullptr;
-    bool m_abgleich = false;     // the view is being brought in line with the controller
-    bool m_listeGezeigt = false; // the combo's list was dropped down for this opening
+    bool m_abgleich = false;          // the view is being brought in line with the controller
+    bool m_listeGezeigt = false;      // the combo's list was dropped down for this opening
+    bool m_auswahlDerTabelle = false; // the controller follows a selection made in the table
 };
 
 // The view of an EinleseDatenController, for the table of views.

@@ -69,6 +69,14 @@ void dateiEinlesen(const QString& pfad) {
         datenpoolVorbereiten();
 }
 
+// The numbered copies first; then a Kontalex transfer's raw bytes and its record file, which are
+// read as they are; and any file, since a dump kept elsewhere may carry another name.
+QString dumpFilter(const QString& messungen) {
+    return QStringList{messungen + " (*.ser)|*.ser", xText("Kontalex-Rohdaten") + " (*.sep)|*.sep",
+                       xText("Kontalex-Datensätze") + " (*.txt)|*.txt", xText("Alle Dateien") + " (*)|*"}
+        .join('|');
+}
+
 } // namespace
 
 void GeräteErkennen(const QString& pfad) {
@@ -92,8 +100,8 @@ void EinlesenAusDatei() {
     m.Abbruchmerker = 0;
     m.dateinameGewählt.clear();
     const QString titel = xText("Messungen");
-    const auto pfad = ui().dateiÖffnen(
-        {titel, titel + " (*.ser)|*.ser", text(m.BackupVerzeichnis) + QDir::separator(), "ser"});
+    const auto pfad =
+        ui().dateiÖffnen({titel, dumpFilter(titel), text(m.BackupVerzeichnis) + QDir::separator(), "ser"});
     if (!pfad)
         return; // cancelled: nothing changes
     dateiEinlesen(*pfad);

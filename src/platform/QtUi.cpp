@@ -48,6 +48,16 @@ QMessageBox::Icon symbol(MsgSymbol s) {
     }
 }
 
+// "Messungen (*.ser)|*.ser|Alle Dateien (*)|*": label and pattern in turn, and each label
+// already names its pattern, so the dialog is given the labels alone, first filter first.
+QString dialogFilter(const QString& filter) {
+    const QStringList teile = filter.split('|');
+    QStringList labels;
+    for (qsizetype i = 0; i < teile.size(); i += 2)
+        labels << teile[i];
+    return labels.join(";;");
+}
+
 } // namespace
 
 int QtUi::MsgBox(const QString& text, const QString& titel, const MsgStil& stil) {
@@ -64,9 +74,8 @@ int QtUi::MsgBox(const QString& text, const QString& titel, const MsgStil& stil)
 }
 
 std::optional<QString> QtUi::dateiÖffnen(const DateiDialog& d) {
-    // "Messungen (*.ser)|*.ser": the label already names the pattern.
-    const QString filter = d.filter.section('|', 0, 0);
-    const QString pfad = QFileDialog::getOpenFileName(m_hauptfenster, d.titel, d.startverzeichnis, filter);
+    const QString pfad =
+        QFileDialog::getOpenFileName(m_hauptfenster, d.titel, d.startverzeichnis, dialogFilter(d.filter));
     if (pfad.isEmpty())
         return std::nullopt;
     return pfad;

@@ -161,6 +161,24 @@ TEST_F(AnsichtTest, EnterStoresEscapeAndArrowsAlone) {
     EXPECT_TRUE(m_ansicht->isVisible());
 }
 
+// After an assignment a plain click selects the one cell clicked, as it does anywhere else, so that
+// the next choice lands on that row alone.
+TEST_F(AnsichtTest, AClickAfterAnAssignmentSelectsTheClickedCellAlone) {
+    doppelklick(1, 2);
+    QTest::keyClick(combo(), Qt::Key_Down);
+    QTest::keyClick(combo(), Qt::Key_Return);
+    ASSERT_EQ(feld(1, "AnlageID"), "2");
+
+    QTest::mouseClick(tabelle()->viewport(), Qt::LeftButton, {}, mitte(3, 1));
+    const Auswahl& a = m_formular->grid().auswahl;
+    EXPECT_EQ(a.ersteZeile(), 3);
+    EXPECT_EQ(a.letzteZeile(), 3);
+    EXPECT_EQ(tabelle()->selectionModel()->selectedIndexes(),
+              QModelIndexList{tabelle()->model()->index(2, 1)});
+    EXPECT_EQ(kind<QLabel>("AnzahlZeilen")->text(),
+              xText("Anzahl der Markiertenzeilen") + " 1 " + xText("von") + " 3");
+}
+
 TEST_F(AnsichtTest, TypingOnTheGridOpensTheComboWithTheCharacter) {
     tabelle()->setFocus();
     tabelle()->selectionModel()->setCurrentIndex(tabelle()->model()->index(2, 4),

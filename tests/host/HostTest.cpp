@@ -175,7 +175,8 @@ TEST_F(HostTest, ReadingAFileCopiesItAndUsesUpANumber) {
     EXPECT_EQ(lastFile(), "");
     ASSERT_EQ(m_ui.dateiDialoge.size(), 1);
     EXPECT_EQ(m_ui.dateiDialoge[0].titel, "Messungen");
-    EXPECT_EQ(m_ui.dateiDialoge[0].filter, "Messungen (*.ser)|*.ser");
+    EXPECT_EQ(m_ui.dateiDialoge[0].filter, "Messungen (*.ser)|*.ser|Kontalex-Rohdaten (*.sep)|*.sep|"
+                                           "Kontalex-Datensätze (*.txt)|*.txt|Alle Dateien (*)|*");
 
     m_ui.gewählteDatei = quelle;
     k.EinlesenAusDatei();
@@ -205,7 +206,8 @@ TEST_F(HostTest, ARunThatCannotFinishIsToldBeforeAnythingIsStored) {
         modul().BackupVerzeichnis = pfad("gibtsnicht");
         lauf();
         ASSERT_EQ(m_ui.meldungen.size(), 1);
-        EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("76 Pfad nicht gefunden")) << m_ui.meldungen[0].text.toStdString();
+        EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("76 Pfad nicht gefunden"))
+            << m_ui.meldungen[0].text.toStdString();
         EXPECT_EQ(modul().Abbruchmerker, 1);
 
         modul().BackupVerzeichnis = pfad("sicherung");
