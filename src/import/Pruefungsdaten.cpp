@@ -7,7 +7,6 @@
 #include "store/Datenbank.h"
 #include "store/Variant.h"
 
-#include <QDateTime>
 #include <QRegularExpression>
 #include <array>
 

@@ -10,8 +10,6 @@
 #include "store/Textvergleich.h"
 #include "store/Variant.h"
 
-#include <QDateTime>
-
 namespace vemo {
 
 namespace {
