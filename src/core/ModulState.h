@@ -13,6 +13,7 @@
 #include <QVariant>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace vemo {
 
@@ -39,6 +40,12 @@ struct TeilFunktionsantwort {
 
 // The module variables: the state that the dialogs and parsers of the component share. There is
 // one such state per loaded component; a second instance of the public class shares it.
+// The highest report number an import run has seen, and the database's data version it was read at.
+struct Protokollstand {
+    double höchste = 0;
+    QString datenversion;
+};
+
 struct ModulState {
     Datenbank db; // the host's database, opened by vemotrixDBName
     QString datenbankName;
@@ -97,6 +104,7 @@ struct ModulState {
     // and whether the dump read last was a Multitester's.
     zahlformat::Gebietsschema zahlen;
     Schlüsselvergabe schlüsselvergabe;
+    std::optional<Protokollstand> protokollstand; // set while a run counts report numbers on
     Laufschlüssel laufschlüssel;
     std::function<void(EinleseDatenController&)> datenübernahme;
     Portpuffer portpuffer;

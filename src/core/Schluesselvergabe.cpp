@@ -48,20 +48,56 @@ QString NeuerCode(const QString& art, const QVariant& elternSchlüssel) {
     return QString("00" + QString::number(i)).right(3);
 }
 
+namespace {
+
+double höchsteProtokollNrLesen() {
+    Recordset rs = db().OpenRecordset("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;");
+    const QVariant max = rs.Eof() ? QVariant() : rs.Field("proMax");
+    return istLeer(max) ? 0 : zahl(max);
+}
+
+// Another connection that committed since changes the data version this connection reads.
+QString datenversion() {
+    return db().ersteSpalte("PRAGMA data_version").value(0);
+}
+
+double höchsteProtokollNr() {
+    std::optional<Protokollstand>& stand = modul().protokollstand;
+    if (!stand)
+        return höchsteProtokollNrLesen();
+    const QString version = datenversion();
+    if (version != stand->datenversion) {
+        stand->höchste = höchsteProtokollNrLesen();
+        stand->datenversion = version;
+    }
+    return stand->höchste;
+}
+
+} // namespace
+
 QString NächsteProtokollNr() {
     QString nummer;
     mitSchrittfalle([&] {
-        Recordset rs =
-            db().OpenRecordset("SELECT Max(Val('' & ProtokollNr)) as [proMax] FROM 0100_Prüfung ;");
-        const QVariant max = rs.Eof() ? QVariant() : rs.Field("proMax");
-        if (!istLeer(max) && zahl(max) != 0)
-            nummer = zahlformat::text(zahl(max) + 1).replace(',', '.').trimmed();
-        else
-            nummer = "1";
+        const double max = höchsteProtokollNr();
+        nummer = max != 0 ? zahlformat::text(max + 1).replace(',', '.').trimmed() : QString("1");
+        ProtokollNrGeschrieben(nummer);
         if (nummer.size() < 8)
             nummer = QString("0000000" + nummer).right(8);
     });
     return nummer;
+}
+
+void ProtokollNrGeschrieben(const QVariant& nummer) {
+    if (std::optional<Protokollstand>& stand = modul().protokollstand)
+        stand->höchste = std::max(stand->höchste, zahlformat::val(text(nummer)));
+}
+
+Protokollzählung::Protokollzählung() {
+    modul().protokollstand.emplace();
+}
+
+Protokollzählung::~Protokollzählung() {
+    modul().protokollstand.reset();
 }
 
 } // namespace vemo

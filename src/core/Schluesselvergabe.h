@@ -17,4 +17,19 @@ QString NeuerCode(const QString& art, const QVariant& elternSchlüssel);
 // The next report number over all inspections, at least eight digits; empty after an error.
 QString NächsteProtokollNr();
 
+// While it lives, the report numbers count on from the highest one read once, instead of reading
+// the highest over all inspections for each new one, which made a run quadratic in the
+// inspections. The highest is read again when another connection has committed since: a new
+// inspection asks for its number under the write lock, so no other writer slips in between.
+class Protokollzählung {
+public:
+    Protokollzählung();
+    ~Protokollzählung();
+    Protokollzählung(const Protokollzählung&) = delete;
+    Protokollzählung& operator=(const Protokollzählung&) = delete;
+};
+
+// A report number written otherwise than by NächsteProtokollNr, which the count must pass.
+void ProtokollNrGeschrieben(const QVariant& nummer);
+
 } // namespace vemo

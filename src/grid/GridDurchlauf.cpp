@@ -4,6 +4,7 @@
 #include "grid/Anzeigetext.h"
 #include "grid/GrundText.h"
 #include "platform/Zahlformat.h"
+#include "store/Textvergleich.h"
 #include "store/Variant.h"
 
 #include <QDate>
@@ -129,7 +130,7 @@ void GridDurchlauf::kunde(const Recordset& einlese, const Abfragezeile& a, int z
     const QString aufgelöst = ohneRandblanks(text(a["Nummernkreis"]) + " " + text(a["Kunde_Name"]));
     if (gleich(a["Kunde_KundeID"], einlese.Field("KundeID"))) {
         m_grid.setzen(zeile, 1, aufgelöst, Zellzustand::Aufgelöst);
-    } else if (!kundeNr.isEmpty() && kundeNr == text(a["Nummernkreis"])) {
+    } else if (!kundeNr.isEmpty() && textGleich(kundeNr, text(a["Nummernkreis"]))) {
         ä.setzen(einlese, "KundeID", a["Kunde_1_KundeID"]);
         m_grid.setzen(zeile, 1, aufgelöst, Zellzustand::Aufgelöst);
     } else {

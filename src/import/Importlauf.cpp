@@ -1,6 +1,7 @@
 #include "import/Importlauf.h"
 
 #include "core/ModulState.h"
+#include "core/Schluesselvergabe.h"
 #include "import/Messimport.h"
 #include "import/Pruefungsdaten.h"
 #include "import/Quelltabelle.h"
@@ -48,6 +49,7 @@ int Importlauf::ausführen(const QString& quellpfad) {
         return f.nummer();
     }
     int ergebnis = 0;
+    const Protokollzählung zählung;
     try {
         std::optional<Ziele> ziele;
         Importstand stand{quelle->anzahl(), 0};

@@ -3,10 +3,10 @@
 #include "core/ModulState.h"
 #include "core/Schluesselvergabe.h"
 #include "core/Vorbelegung.h"
+#include "import/Altdatum.h"
 #include "store/Datenbank.h"
 #include "store/Variant.h"
 
-#include <QDateTime>
 #include <QRegularExpression>
 #include <array>
 
@@ -109,16 +109,7 @@ QString erprobungText(const Quellzeile& z) {
 } // namespace
 
 QVariant prüfdatum(const Quellzeile& z) {
-    const QVariant wert = z.feld("Pruefdatum");
-    if (wert.typeId() == QMetaType::QDateTime)
-        return wert.toDateTime().date();
-    const QString t = z.text("Pruefdatum").trimmed();
-    for (const char* form : {"dd.MM.yyyy", "d.M.yyyy", "yyyy-MM-dd", "dd.MM.yyyy HH:mm:ss"}) {
-        const QDateTime d = QDateTime::fromString(t, form);
-        if (d.isValid())
-            return d.date();
-    }
-    return nullWert();
+    return altesDatum(z.feld("Pruefdatum"));
 }
 
 Pruefungsdaten::Pruefungsdaten()
@@ -126,19 +117,20 @@ Pruefungsdaten::Pruefungsdaten()
       m_betriebsmittel(db().OpenRecordset("0100_Betriebsmittel")) {}
 
 QVariant Pruefungsdaten::prüfung(const Quellzeile& z, const QVariant& anlageID) {
+    const QVariant datum = prüfdatum(z);
     m_prüfungen.AddNew();
     const qint32 neu = NeueID("", m_prüfungen.Name());
     m_prüfungen.setField("PrüfungID", neu);
     NeueZeileVorbelegen("Prüfung", m_prüfungen, anlageID);
     m_prüfungen.setField("AnlagenID", anlageID);
-    // A column the old table lacks, or left without a value, keeps the default of a new inspection.
+    // A column left without a value keeps the default of a new inspection.
     for (const Spalte& s : spalten)
         if (!istLeer(z.feld(s.quelle)))
             m_prüfungen.setField(s.ziel, z.feld(s.quelle));
+    ProtokollNrGeschrieben(m_prüfungen.Field("ProtokollNr"));
     m_prüfungen.setField("echecktext", erprobungText(z));
     for (size_t i = 0; i < prüfgeräte.size(); ++i)
         m_prüfungen.setField(QString("PrüfgerätName%1").arg(i + 1), prüfgerätName(z, prüfgeräte[i]));
-    const QVariant datum = prüfdatum(z);
     if (!istLeer(datum))
         m_prüfungen.setField("Datum", datum);
     m_prüfungen.Update();

@@ -11,7 +11,10 @@
 namespace vemo {
 
 QVariant Quellzeile::feld(const QString& spalte) const {
-    return m_felder.value(spalte.toLower(), QVariant::fromValue(nullptr));
+    const auto it = m_felder.constFind(spalte.toLower());
+    if (it == m_felder.cend())
+        throw fehler::mit(fehler::ElementNichtGefunden, spalte);
+    return *it;
 }
 
 QString Quellzeile::text(const QString& spalte) const {

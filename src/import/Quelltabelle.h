@@ -11,7 +11,8 @@
 namespace vemo {
 
 // One row of the older database's table: its fields by column name, found without regard to case
-// as the old database found them. A column the row lacks reads as Null.
+// as the old database found them. A column the table lacks raises 3265, as the old engine did: a
+// database older than the mapping ends the run instead of bringing nameless rows.
 class Quellzeile {
 public:
     void setzen(const QString& spalte, const QVariant& wert) { m_felder.insert(spalte.toLower(), wert); }

@@ -4,19 +4,15 @@
 #include "core/Schluesselvergabe.h"
 #include "core/Vorbelegung.h"
 #include "import/Adresse.h"
+#include "import/Altdatum.h"
 #include "store/Datenbank.h"
 #include "store/Literal.h"
+#include "store/Textvergleich.h"
 #include "store/Variant.h"
-
-#include <QDateTime>
 
 namespace vemo {
 
 namespace {
-
-bool gleicherText(const QString& a, const QString& b) {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
 
 bool ohneKundeUndAnlage(const Quellzeile& z) {
     return z.text("Kunden").isEmpty() && z.text("Anlage").isEmpty();
@@ -25,17 +21,9 @@ bool ohneKundeUndAnlage(const Quellzeile& z) {
 // The next inspection counts only when the old mask held a date with its time.
 QVariant nächstePrüfung(const Quellzeile& z) {
     const QVariant wert = z.feld("Form1_MaskedEdit11");
-    const QString t = wert.typeId() == QMetaType::QDateTime
-                          ? wert.toDateTime().toString("dd.MM.yyyy HH:mm:ss")
-                          : z.text("Form1_MaskedEdit11").trimmed();
-    if (!t.contains(':'))
+    if (wert.typeId() != QMetaType::QDateTime && !z.text("Form1_MaskedEdit11").contains(':'))
         return nullWert();
-    for (const char* form : {"dd.MM.yyyy HH:mm:ss", "dd.MM.yyyy HH:mm", "yyyy-MM-dd HH:mm:ss"}) {
-        const QDateTime d = QDateTime::fromString(t, form);
-        if (d.isValid())
-            return d.date();
-    }
-    return nullWert();
+    return altesDatum(wert);
 }
 
 } // namespace
@@ -59,8 +47,8 @@ QVariant Stammdaten::gleicherKunde(const QString& abfrage, const Quellzeile& z) 
         return {};
     const QString adresse3 = z.text("Adresse3");
     for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext())
-        if (gleicherText(rs.Text("Strasse"), z.text("Adresse")) &&
-            gleicherText(rs.Text("Plz"), sPLZ(adresse3)) && gleicherText(rs.Text("Stadt"), sStadt(adresse3)))
+        if (textGleich(rs.Text("Strasse"), z.text("Adresse")) && textGleich(rs.Text("Plz"), sPLZ(adresse3)) &&
+            textGleich(rs.Text("Stadt"), sStadt(adresse3)))
             return rs.Field("KundeID");
     return {};
 }
@@ -94,6 +82,7 @@ QVariant Stammdaten::anlage(const Quellzeile& z, const QVariant& kundeID) {
 }
 
 QVariant Stammdaten::neueAnlage(const Quellzeile& z, const QVariant& kundeID) {
+    const QVariant nächste = nächstePrüfung(z);
     m_anlagen.AddNew();
     const qint32 neu = NeueID("", m_anlagen.Name());
     m_anlagen.setField("AnlageID", neu);
@@ -101,7 +90,7 @@ QVariant Stammdaten::neueAnlage(const Quellzeile& z, const QVariant& kundeID) {
     m_anlagen.setField("KundeID", kundeID);
     m_anlagen.setField("Code", z.text("Anlage"));
     m_anlagen.setField("Name", z.text("Anlage"));
-    m_anlagen.setField("NächstePrüfung", nächstePrüfung(z));
+    m_anlagen.setField("NächstePrüfung", nächste);
     m_anlagen.setField("Anlagenplaner", z.text("Anlagenplaner"));
     m_anlagen.Update();
     return neu;

@@ -1,5 +1,7 @@
 #include "store/Dialekt.h"
 
+#include "store/Textvergleich.h"
+
 #include <algorithm>
 #include <optional>
 #include <vector>
@@ -362,6 +364,45 @@ bool istVergleich(const Token& k) {
                                      k.text == "<=" || k.text == ">=");
 }
 
+// A column whose name says it holds a key (KundeID, IDDATLOG): its comparisons are of numbers.
+bool istSchlüsselname(const Token& k) {
+    return k.text.endsWith(QLatin1String("ID"), Qt::CaseInsensitive) ||
+           k.text.startsWith(QLatin1String("ID"), Qt::CaseInsensitive);
+}
+
+// A column named alone or qualified (Kunde_1.Nummernkreis, [0100_Anlage].Code) that is no key.
+bool istTextspalte(const std::vector<Token>& t, size_t von, size_t bis) {
+    while (bis > von && t[bis - 1].art == Art::Leer)
+        --bis;
+    if (von >= bis)
+        return false;
+    for (size_t j = von; j < bis; ++j)
+        if (t[j].art != Art::Name && t[j].art != Art::Wort && !ist(t[j], "."))
+            return false;
+    return t[bis - 1].art != Art::Zeichen && !istSchlüsselname(t[bis - 1]);
+}
+
+// "=" and "<>" on text ignore case for every letter the host's engine folds; the NOCASE of the
+// schema's columns folds ASCII only. The collation goes on the right operand when it is a text or
+// a column that holds no key, so that comparisons of keys keep their indexes.
+void textvergleicheFalten(std::vector<Token>& t) {
+    bool inBedingung = false;
+    for (size_t i = 0; i < t.size(); ++i) {
+        if (ist(t[i], "WHERE") || ist(t[i], "ON") || ist(t[i], "HAVING"))
+            inBedingung = true;
+        if (!inBedingung || !(ist(t[i], "=") || ist(t[i], "<>")))
+            continue;
+        const size_t rechts = nächstes(t, i + 1);
+        if (rechts >= t.size())
+            break;
+        const size_t ende = operandRechts(t, i + 1);
+        const bool text = t[rechts].art == Art::Text ||
+                          (istTextspalte(t, operandLinks(t, i), i) && istTextspalte(t, rechts, ende));
+        if (text)
+            t.insert(t.begin() + long(ende), {Art::Wort, QString(" COLLATE ") + TextSortierfolge});
+    }
+}
+
 // Only where a statement can take bound values: reads, changes and deletions, whose placeholders
 // are all this translation's own.
 bool kannWerteBinden(const std::vector<Token>& t, const QStringList& parameter) {
@@ -405,6 +446,7 @@ QVector<QVariant> werteBinden(std::vector<Token>& t, const QStringList& paramete
     ü.parameter = parameterAbtrennen(t);
     hülleEntfernen(t);
     verkettungUmsetzen(t);
+    textvergleicheFalten(t);
     ü.werte = werteBinden(t, ü.parameter);
     ü.sql = ausgeben(t, ü.parameter);
     ü.einfacheAuswahl = istEinfacheAuswahl(t);

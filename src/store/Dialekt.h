@@ -25,7 +25,8 @@ struct Übersetzung {
 // names, double-quoted strings, & concatenation (Null reads as empty text, numbers as the system
 // writes them), DELETE * FROM, True and
 // False, #date# literals, division as in floating point, a statement wrapped in parentheses with
-// a ";" inside, and a PARAMETERS clause. Literals compared in a condition become bound values.
+// a ";" inside, and a PARAMETERS clause. Literals compared in a condition become bound values; a
+// text compared with "=" or "<>" ignores case as the host's engine does (TextSortierfolge).
 Übersetzung übersetzen(const QString& statement);
 
 } // namespace vemo

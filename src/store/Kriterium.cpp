@@ -2,6 +2,7 @@
 
 #include "platform/Fehler.h"
 #include "platform/Zahlformat.h"
+#include "store/Textvergleich.h"
 #include "store/Variant.h"
 
 #include <QRegularExpression>
@@ -197,7 +198,7 @@ int vergleiche(const QVariant& feld, const QVariant& wert, bool& vergleichbar) {
         }
         return *a < *b ? -1 : (*a > *b ? 1 : 0);
     }
-    return text(feld).compare(text(wert), Qt::CaseInsensitive);
+    return textVergleich(text(feld), text(wert));
 }
 
 bool wieMuster(const QString& text, const QString& muster) {

@@ -2,6 +2,7 @@
 
 #include "platform/Fehler.h"
 #include "platform/Zahlformat.h"
+#include "store/Textvergleich.h"
 #include "store/Variant.h"
 
 #include <QDate>
@@ -76,6 +77,7 @@ void vbTextFunktion(sqlite3_context* ctx, int, sqlite3_value** argv) {
 }
 
 void funktionenAnmelden(sqlite3* db) {
+    textSortierfolgeAnmelden(db);
     sqlite3_create_function(db, "VbText", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, vbTextFunktion,
                             nullptr, nullptr);
     sqlite3_create_function(db, "Val", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, valFunktion, nullptr,

@@ -1,6 +1,7 @@
 #include "language/SprachDatenbank.h"
 #include "store/Datenbank.h"
 #include "store/Schema.h"
+#include "support/Quelldatenbank.h"
 #include "support/Testumgebung.h"
 
 #include <QProcess>
@@ -56,16 +57,25 @@ TEST_F(ZuordnenImportBefehlTest, AssignDeviceWritesTheNewestDevicesRows) {
 }
 
 TEST_F(ZuordnenImportBefehlTest, ImportShowsItsPercentagesAndItsResult) {
-    const QString quelle = pfad("alt.db");
-    Datenbank::anlegen(quelle).skriptAusführen(
-        "CREATE TABLE kunden (Kunden, Adresse, Adresse3, Anlage, Reserve3);"
-        "INSERT INTO kunden VALUES ('Neubau Ost', 'Ring 1', '37073 Göttingen', 'Halle', '!1/1;;Licht#@'),"
-        "('Neubau Ost', 'Ring 1', '37073 Göttingen', 'Halle', '');");
-    const Ergebnis lauf = vemo0100({"import", quelle});
+    const Quelldatenbank quelle(pfad("alt.db"));
+    quelle.zeile(quellzeile("Neubau Ost", "Halle", "!1/1;;Licht#@"));
+    quelle.zeile(quellzeile("Neubau Ost", "Halle"));
+    const Ergebnis lauf = vemo0100({"import", quelle.pfad()});
     EXPECT_EQ(lauf.status, 0) << lauf.fehler.toStdString();
     EXPECT_EQ(lauf.fehler, "0%\n50%\n100%\nvemotrix professional: Importieren erfolgreich beendet\n");
     EXPECT_EQ(abfrage("SELECT Count(*) FROM Kunde WHERE Name = 'Neubau Ost'"), "1");
     EXPECT_EQ(abfrage("SELECT Count(*) FROM 0100_Stromkreis WHERE Name = 'Licht'"), "1");
+
+    // An older table without a column the import reads ends the run before it writes a row.
+    const QString älter = pfad("aelter.db");
+    Datenbank::anlegen(älter).skriptAusführen(
+        "CREATE TABLE kunden (Kunden, Adresse, Adresse3, Anlage, Reserve3);"
+        "INSERT INTO kunden VALUES ('Altbau West', 'Ring 1', '37073 Göttingen', 'Halle', '');");
+    const Ergebnis unvollständig = vemo0100({"import", älter});
+    EXPECT_EQ(unvollständig.status, 1);
+    EXPECT_TRUE(unvollständig.fehler.contains("Fehler 3265:  ")) << unvollständig.fehler.toStdString();
+    EXPECT_FALSE(unvollständig.fehler.contains("erfolgreich"));
+    EXPECT_EQ(abfrage("SELECT Count(*) FROM Kunde WHERE Name IN ('Altbau West', 'xxxxx', '')"), "0");
 
     const Ergebnis fehlt = vemo0100({"import", pfad("fehlt.mdb")});
     EXPECT_EQ(fehlt.status, 1);

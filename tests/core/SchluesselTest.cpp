@@ -58,6 +58,19 @@ TEST_F(SchluesselTest, ReportNumbersHaveAtLeastEightDigits) {
     EXPECT_EQ(NächsteProtokollNr(), "123456790");
 }
 
+// A run counts on from the highest number it read: past a number it wrote otherwise, and past one
+// that another connection has written meanwhile.
+TEST_F(SchluesselTest, ARunCountsReportNumbersOnAndSeesThoseOfAnotherWriter) {
+    const Protokollzählung zählung;
+    sql("INSERT INTO \"0100_Prüfung\" (\"PrüfungID\", ProtokollNr) VALUES (1, '00000041');");
+    EXPECT_EQ(NächsteProtokollNr(), "00000042");
+    ProtokollNrGeschrieben("00000100");
+    EXPECT_EQ(NächsteProtokollNr(), "00000101");
+    Datenbank::OpenDatabase(m_dbPfad).skriptAusführen(
+        "INSERT INTO \"0100_Prüfung\" (\"PrüfungID\", ProtokollNr) VALUES (2, '00000500');");
+    EXPECT_EQ(NächsteProtokollNr(), "00000501");
+}
+
 TEST_F(SchluesselTest, NewRowsGetTheirDefaultsAndEquipment) {
     sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001');");
     Recordset anlage = db().OpenRecordset("0100_Anlage");

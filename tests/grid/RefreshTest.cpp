@@ -218,6 +218,14 @@ TEST_F(RefreshTest, OddRowsNeitherStopTheGridNorLoopForever) {
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
+TEST_F(RefreshTest, ACustomerNumberIsFoundWhateverTheCaseOfItsUmlauts) {
+    sql("INSERT INTO Kunde (KundeID, Name, Nummernkreis) VALUES (8, 'Bäcker', 'BÄ-7');");
+    zeile({.messungID = 1, .kundeNr = "bä-7"});
+    const auto f = formular();
+    EXPECT_EQ(feld(1, "KundeID"), "8");
+    EXPECT_EQ(zustand(*f, 1, 1), Zellzustand::Aufgelöst);
+}
+
 TEST_F(RefreshTest, AnEmptyTableGivesAnEmptyGrid) {
     const auto f = formular();
     EXPECT_EQ(f->grid().Rows(), 1);

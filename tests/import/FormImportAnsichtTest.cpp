@@ -1,4 +1,4 @@
-#include "Quelldatenbank.h"
+#include "support/Quelldatenbank.h"
 
 #include "import/FormImport.h"
 #include "import/FormImportAnsicht.h"

@@ -1,14 +1,18 @@
-#include "Quelldatenbank.h"
+#include "support/Quelldatenbank.h"
 
+#include "core/ModulState.h"
 #include "host/Modul15a.h"
 #include "import/FormImport.h"
+#include "store/Recordset.h"
 #include "store/Variant.h"
 #include "support/Fremdtexte.h"
 #include "support/Testumgebung.h"
 
 #include <QDate>
 #include <QFile>
+#include <QProcess>
 #include <QSignalSpy>
+#include <QStandardPaths>
 
 using namespace vemo;
 using namespace vemo::test;
@@ -171,6 +175,55 @@ TEST_F(ImportTest, NamesAreComparedAsTheirText) {
                   "2")
             << name.toStdString();
     }
+}
+
+// "=" on text ignores case for umlauts as for ASCII, in the import's look-ups as in FindFirst; the
+// file stays a plain SQLite database that a tool without the component's collation reads.
+TEST_F(ImportTest, UmlautsCompareWithoutRegardToCaseAndTheFileStaysReadable) {
+    m_quelle->zeile(quellzeile("Bäcker", "Öfen"));
+    m_quelle->zeile(quellzeile("BÄCKER", "ÖFEN"));
+    importieren(m_quelle->pfad());
+    EXPECT_EQ(anzahl("Kunde"), 1);
+    EXPECT_EQ(anzahl("0100_Anlage"), 1);
+    Recordset kunden = modul().db.OpenRecordset("Kunde");
+    kunden.FindFirst("Name = 'bäcker'");
+    EXPECT_FALSE(kunden.NoMatch());
+
+    const QString werkzeug = QStandardPaths::findExecutable("sqlite3");
+    if (werkzeug.isEmpty())
+        GTEST_SKIP() << "the sqlite3 command-line tool is not installed";
+    for (const auto& [befehl, erwartet] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"SELECT Name FROM Kunde WHERE Name = 'bäcker'", "Bäcker\n"},
+             {"PRAGMA integrity_check", "ok\n"}}) {
+        QProcess p;
+        p.start(werkzeug, {m_dbPfad, befehl});
+        ASSERT_TRUE(p.waitForFinished(30000));
+        EXPECT_EQ(QString::fromUtf8(p.readAll()), erwartet) << p.readAllStandardError().toStdString();
+    }
+}
+
+// The dates in every spelling the old engine took; a text that is no date is its type error, and
+// never today.
+TEST_F(ImportTest, DatesReadInEverySpellingTheOldEngineTookAndOtherTextsAreATypeError) {
+    for (const QString datum : {"2019-06-14", "2019-06-14 00:00:00", "14.06.2019", "14.06.19", "14.6.19"}) {
+        QVariantMap z = quellzeile("Praxis Feldmann", datum);
+        z.insert(
+            {{"Pruefdatum", datum}, {"Form1_MaskedEdit11", datum.contains(':') ? datum : datum + " 8:00"}});
+        m_quelle->zeile(z);
+    }
+    importieren(m_quelle->pfad());
+    EXPECT_EQ(m_ui.texte(), QStringList{Erfolg});
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE Datum LIKE '2019-06-14%'"), "5");
+    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Anlage WHERE NächstePrüfung LIKE '2019-06-14%'"), "5");
+
+    const Quelldatenbank falsch(pfad("falsch.db"));
+    QVariantMap z = quellzeile("Praxis Feldmann", "Praxis");
+    z.insert("Pruefdatum", "bald");
+    falsch.zeile(z);
+    importieren(falsch.pfad());
+    EXPECT_TRUE(m_ui.texte().value(1).startsWith("Fehler 13:  ")) << m_ui.texte().join('|').toStdString();
+    EXPECT_EQ(m_ui.texte().value(2), Fehlerhaft);
+    EXPECT_EQ(anzahl("0100_Prüfung"), 5);
 }
 
 TEST_F(ImportTest, TheProgressCountsTheRowsAndEndsAtAHundred) {

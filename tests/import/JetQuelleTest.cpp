@@ -83,15 +83,14 @@ TEST(JetQuelleTest, TheReaderYieldsWhatMdbExportPrintsForTheSameTable) {
     EXPECT_FALSE(tabelle->nächsteZeile().has_value());
 }
 
-TEST(JetQuelleTest, FieldsComeTypedAndAMissingColumnReadsAsNull) {
+TEST(JetQuelleTest, FieldsComeTypedAndAMissingColumnIsTheOldEnginesError) {
     const auto tabelle = quelltabelleÖffnen(Beispiel, "Users");
     const auto zeile = tabelle->nächsteZeile();
     ASSERT_TRUE(zeile.has_value());
     EXPECT_EQ(zeile->feld("UserId").typeId(), QMetaType::LongLong);
     EXPECT_EQ(zeile->feld("UserBirthday").typeId(), QMetaType::QDateTime);
     EXPECT_EQ(zeile->feld("usermarried").toInt(), -1); // yes is -1, as the old database keeps it
-    EXPECT_TRUE(zeile->feld("Reserve3").isNull());
-    EXPECT_EQ(zeile->text("Reserve3"), "");
+    EXPECT_THROW(zeile->text("Reserve3"), Fehler);
 }
 
 } // namespace

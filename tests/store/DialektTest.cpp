@@ -47,20 +47,21 @@ TEST(Dialekt, BindsTheLiteralsOfAConditionOnly) {
     const Übersetzung z = übersetzen(
         "SELECT 5 AS fünf, Code FROM t WHERE KundeID = 12 AND (Code ='0,5' OR Wert >= 1.5) AND Nr <> -1 "
         "AND Name Like 'A*' ORDER BY 1");
-    EXPECT_EQ(z.sql, "SELECT 5 AS fünf, Code FROM t WHERE KundeID = ?1 AND (Code =?2 OR Wert >= ?3) AND Nr "
+    EXPECT_EQ(z.sql, "SELECT 5 AS fünf, Code FROM t WHERE KundeID = ?1 AND (Code =?2 COLLATE VEMO_NOCASE OR "
+                     "Wert >= ?3) AND Nr "
                      "<> -1 AND Name Like 'A%' ORDER BY 1");
     EXPECT_EQ(z.werte, (QVector<QVariant>{qlonglong(12), QString("0,5"), 1.5}));
     EXPECT_EQ(z.sqlMitRowid.count("?"), 3);
 
     const Übersetzung u = übersetzen("UPDATE t SET a = 1 WHERE b = 'x'");
-    EXPECT_EQ(u.sql, "UPDATE t SET a = 1 WHERE b = ?1");
+    EXPECT_EQ(u.sql, "UPDATE t SET a = 1 WHERE b = ?1 COLLATE VEMO_NOCASE");
     EXPECT_EQ(u.werte, QVector<QVariant>{QString("x")});
     EXPECT_EQ(übersetzen("DELETE * FROM t WHERE a > 2").werte, QVector<QVariant>{qlonglong(2)});
 
     // A text from outside, quoted as a literal, is one bound value with every character it holds.
     for (const QString& t : test::Fremdtexte) {
         const Übersetzung l = übersetzen("SELECT * FROM t WHERE a = " + literal(t) + " AND b = 1");
-        EXPECT_EQ(l.sql, "SELECT * FROM t WHERE a = ?1 AND b = ?2");
+        EXPECT_EQ(l.sql, "SELECT * FROM t WHERE a = ?1 COLLATE VEMO_NOCASE AND b = ?2");
         EXPECT_EQ(l.werte, (QVector<QVariant>{t, qlonglong(1)}));
     }
 

@@ -1,4 +1,4 @@
-#include "Quelldatenbank.h"
+#include "support/Quelldatenbank.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -27,43 +27,26 @@ void ausführen(const QString& pfad, const QString& anweisung, const QVariantLis
     sqlite3_close(db);
 }
 
+QStringList nummeriert(const QString& stamm, int von, int bis) {
+    QStringList namen;
+    for (int i = von; i <= bis; ++i)
+        namen << stamm + QString::number(i);
+    return namen;
+}
+
 } // namespace
 
 const QStringList& Quelldatenbank::spalten() {
-    static const QStringList namen{"Kunden",
-                                   "Nr",
-                                   "Adresse",
-                                   "Adresse3",
-                                   "Anlage",
-                                   "Anlagenplaner",
-                                   "Form1_MaskedEdit11",
-                                   "Pruefdatum",
-                                   "Puefprot_Nr",
-                                   "Auftragsnr",
-                                   "kopf_Check3d10",
-                                   "kopf_Check3d11",
-                                   "Besichtigung_check3d14",
-                                   "Besichtigung_check3d16",
-                                   "Netzspannung",
-                                   "kopf_label2",
-                                   "kopf_Check3d6",
-                                   "Pruefung_nach",
-                                   "Erprobung_Text3",
-                                   "Erprobung_Text4",
-                                   "Erprobung_Text5",
-                                   "Erprobung_Text6",
-                                   "Form1_MaskedEdit3",
-                                   "Form1_MaskedEdit5",
-                                   "Seriennummer",
-                                   "Messung_1_Label14",
-                                   "Form1_MaskedEdit4",
-                                   "Form1_MaskedEdit6",
-                                   "Prüfer",
-                                   "Reserve2",
-                                   "Betriebsmittel",
-                                   "Reserve3",
-                                   "Messung_2",
-                                   "form1_text14"};
+    static const QStringList namen =
+        QString(
+            "Kunden Nr Adresse Adresse3 Anlage Anlagenplaner Pruefdatum Puefprot_Nr Auftragsnr Netzspannung "
+            "Pruefung_nach Seriennummer Messung_1_Label14 Prüfer Betriebsmittel Messung_2 form1_text14 "
+            "kopf_label2 kopf_label3 Erprobung_MaskedEdit1 Erprobung_maskedEdit2")
+            .split(' ') +
+        nummeriert("kopf_Check3d", 1, 13) + nummeriert("Besichtigung_check3d", 1, 17) +
+        nummeriert("besichtigung_maskedEdit", 1, 2) + nummeriert("Erprobung_check3d", 2, 12) +
+        nummeriert("Erprobung_Text", 3, 6) + nummeriert("Form1_MaskedEdit", 1, 11) +
+        nummeriert("Form1_check3d", 1, 4) + nummeriert("Reserve", 1, 3);
     return namen;
 }
 
