@@ -150,6 +150,13 @@ QVariant spaltenwert(const QVariant& wert, Typklasse klasse) {
     return wert;
 }
 
+namespace {
+// A file that is there but holds no database of ours.
+Fehler unbekanntesFormat(const QString& pfad) {
+    return Fehler(fehler::UnbekanntesDatenbankformat, "Unbekanntes Datenbankformat '" + pfad + "'.");
+}
+} // namespace
+
 void sqliteFehler(sqlite3* db, int rc, const QString& sql) {
     const QString text = utf8(sqlite3_errmsg(db));
     const int basis = rc & 0xff;
@@ -162,8 +169,7 @@ void sqliteFehler(sqlite3* db, int rc, const QString& sql) {
     if (basis == SQLITE_CONSTRAINT)
         throw fehler::mit(fehler::DoppelterSchlüssel, text);
     if (basis == SQLITE_NOTADB)
-        throw Fehler(fehler::UnbekanntesDatenbankformat,
-                     "Unbekanntes Datenbankformat '" + utf8(sqlite3_db_filename(db, "main")) + "'.");
+        throw unbekanntesFormat(utf8(sqlite3_db_filename(db, "main")));
     if (basis == SQLITE_CANTOPEN)
         throw fehler::mit(fehler::DatenbankNichtGefunden, text);
     if (basis == SQLITE_ERROR || basis == SQLITE_RANGE)
@@ -184,7 +190,7 @@ Verbindung::Verbindung(const QString& pfad, bool anlegen) : m_pfad(pfad) {
     // SQLite takes an empty file for an empty database and would make it one at the first write;
     // a file picked by mistake stays as it was.
     if (!anlegen && QFileInfo(pfad).isFile() && QFileInfo(pfad).size() == 0)
-        throw Fehler(fehler::UnbekanntesDatenbankformat, "Unbekanntes Datenbankformat '" + pfad + "'.");
+        throw unbekanntesFormat(pfad);
     const int flags = SQLITE_OPEN_READWRITE | (anlegen ? SQLITE_OPEN_CREATE : 0);
     const int rc = sqlite3_open_v2(pfad.toUtf8().constData(), &m_db, flags, nullptr);
     if (rc != SQLITE_OK) {
