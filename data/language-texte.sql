@@ -153,6 +153,7 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Schnittstelle', 'Interface'),
   ('Gerätetyp', 'Instrument type'),
   ('Sicherungsverzeichnis', 'Backup folder'),
+  ('Arbeitsordner', 'Work folder'),
   ('Datei', 'File'),
   ('Beenden', 'Exit'),
   ('Daten empfangen', 'Receive data'),

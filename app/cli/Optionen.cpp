@@ -8,7 +8,7 @@ const char* const Gebrauch =
     "usage: vemo0100 init-db DB [--demo]\n"
     "       vemo0100 --help | --version\n"
     "       vemo0100 --db DB [--language NAME] [--backup DIR] [--settings FILE] [--locale NAME]\n"
-    "                [--replica ID] [--port N|PATH] [--type CODE]\n"
+    "                [--workdir DIR] [--replica ID] [--port N|PATH] [--type CODE]\n"
     "                [--customer ID] [--plant ID] [--inspection ID] [--yes] COMMAND\n"
     "  read-file FILE [--start \"DD.MM.YYYY HH:MM:SS\"] [--json]\n"
     "                          read a saved dump; --start stores a logger series, --json prints it\n"
@@ -23,7 +23,9 @@ const char* const Gebrauch =
     "             [--customer-digits 1..3] [--board-digits 1..3]   settings of a 37xx instrument\n"
     "  assign-device --customer K [--plant A] [--inspection P]\n"
     "                          bulk assignment of the newest device's read-in rows\n"
-    "  import SOURCE           bring an older database's inspections in\n";
+    "  import SOURCE           bring an older database's inspections in\n"
+    "DB is a database file or a server's URI (postgresql://user@host:port/dbname). The working\n"
+    "files lie in --workdir, else beside a database file, else in the folder of the settings.\n";
 
 namespace {
 
@@ -37,17 +39,10 @@ QCommandLineOption mitWert(const QString& name) {
 }
 
 const std::vector<std::pair<QString, QString Optionen::*>> globaleOptionen{
-    {"db", &Optionen::db},
-    {"language", &Optionen::sprache},
-    {"backup", &Optionen::backup},
-    {"settings", &Optionen::settings},
-    {"locale", &Optionen::locale},
-    {"replica", &Optionen::replica},
-    {"port", &Optionen::port},
-    {"type", &Optionen::typ},
-    {"customer", &Optionen::kunde},
-    {"plant", &Optionen::anlage},
-    {"inspection", &Optionen::prüfung},
+    {"db", &Optionen::db},           {"language", &Optionen::sprache},  {"backup", &Optionen::backup},
+    {"workdir", &Optionen::workdir}, {"settings", &Optionen::settings}, {"locale", &Optionen::locale},
+    {"replica", &Optionen::replica}, {"port", &Optionen::port},         {"type", &Optionen::typ},
+    {"customer", &Optionen::kunde},  {"plant", &Optionen::anlage},      {"inspection", &Optionen::prüfung},
 };
 
 // What a command takes: at most so many arguments, the options with a value, the switches.

@@ -14,6 +14,7 @@ struct Optionen {
     QString db;
     QString sprache;
     QString backup;
+    QString workdir;
     QString settings;
     QString locale;
     QString replica;

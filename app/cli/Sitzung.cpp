@@ -5,8 +5,6 @@
 #include "core/ModulState.h"
 #include "platform/Zahlformat.h"
 
-#include <QFileInfo>
-
 using namespace vemo;
 
 Sitzung::Sitzung(const Optionen& o)
@@ -21,11 +19,12 @@ Sitzung::Sitzung(const Optionen& o)
         zahlformat::setzen(QLocale(o.locale));
     m_komponente = std::make_unique<vemo0100Modul15a>(*m_ui, *m_settings);
     vemo0100Modul15a& k = *m_komponente;
+    k.setArbeitsverzeichnis(o.workdir);
     k.setVemotrixDBName(o.db);
     if (!bereit())
         return;
     k.setSprache(o.sprache.isEmpty() ? QString("Deutsch (&Deutschland)") : o.sprache);
-    k.setBackupVerzeichnis(o.backup.isEmpty() ? QFileInfo(o.db).absolutePath() : o.backup);
+    k.setBackupVerzeichnis(o.backup.isEmpty() ? modul().Datenbankverzeichnis : o.backup);
     if (!o.replica.isEmpty())
         k.setVmxReplicaID(o.replica);
     bool istNummer = false;

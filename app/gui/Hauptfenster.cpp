@@ -55,6 +55,8 @@ Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstell
     m_port->setText(gemerkt("Port", "1"));
     m_typ->setCurrentIndex(std::max(0, m_typ->findData(gemerkt("Typ", "100").toInt())));
     m_backup->setText(gemerkt("Backup"));
+    m_arbeitsordner->setText(gemerkt("Arbeitsordner"));
+    m_komponente.setArbeitsverzeichnis(m_arbeitsordner->text());
     eigenschaftenÜbernehmen();
     const QString gemerkteDb = gemerkt("Datenbank");
     const bool geöffnet = (!datenbank.isEmpty() && datenbankSetzen(datenbank)) ||
@@ -101,18 +103,34 @@ QWidget* Hauptfenster::eigenschaftenBauen() {
     connect(m_typ, &QComboBox::activated, this, &Hauptfenster::eigenschaftenÜbernehmen);
     zeile("Gerätetyp", m_typ);
     m_backup = new QLineEdit;
-    auto* ordner = new QPushButton("...");
-    connect(ordner, &QPushButton::clicked, this, [this] {
-        const QString p =
-            QFileDialog::getExistingDirectory(this, xText("Sicherungsverzeichnis"), m_backup->text());
+    connect(m_backup, &QLineEdit::editingFinished, this, &Hauptfenster::eigenschaftenÜbernehmen);
+    zeile("Sicherungsverzeichnis", m_backup, ordnerWahl(m_backup, "Sicherungsverzeichnis"));
+    m_arbeitsordner = new QLineEdit;
+    m_arbeitsordner->setPlaceholderText(QFileInfo(m_einstellungen.ordner()).absoluteFilePath());
+    connect(m_arbeitsordner, &QLineEdit::editingFinished, this, &Hauptfenster::arbeitsordnerSetzen);
+    zeile("Arbeitsordner", m_arbeitsordner, ordnerWahl(m_arbeitsordner, "Arbeitsordner"));
+    return rahmen;
+}
+
+// The "..." beside a folder's field: the folder picked goes into the field as if typed.
+QPushButton* Hauptfenster::ordnerWahl(QLineEdit* feld, const char* titel) {
+    auto* knopf = new QPushButton("...");
+    connect(knopf, &QPushButton::clicked, this, [this, feld, titel] {
+        const QString p = QFileDialog::getExistingDirectory(this, xText(titel), feld->text());
         if (!p.isEmpty()) {
-            m_backup->setText(p);
-            eigenschaftenÜbernehmen();
+            feld->setText(p);
+            emit feld->editingFinished();
         }
     });
-    connect(m_backup, &QLineEdit::editingFinished, this, &Hauptfenster::eigenschaftenÜbernehmen);
-    zeile("Sicherungsverzeichnis", m_backup, ordner);
-    return rahmen;
+    return knopf;
+}
+
+// The working files follow the work folder at once: the open database is opened again with it.
+void Hauptfenster::arbeitsordnerSetzen() {
+    merken("Arbeitsordner", m_arbeitsordner->text().trimmed());
+    m_komponente.setArbeitsverzeichnis(m_arbeitsordner->text().trimmed());
+    if (m_komponente.vemotrixDB().istOffen())
+        datenbankSetzen(m_datenbank->text());
 }
 
 void Hauptfenster::menüsBauen() {

@@ -6,6 +6,7 @@
 
 class QComboBox;
 class QLineEdit;
+class QPushButton;
 class QLabel;
 class QMenu;
 class QAction;
@@ -34,6 +35,8 @@ private:
     };
 
     QWidget* eigenschaftenBauen();
+    QPushButton* ordnerWahl(QLineEdit* feld, const char* titel);
+    void arbeitsordnerSetzen();
     void menüsBauen();
     void beschriften();
     void befehl(const Befehl& b);
@@ -56,6 +59,7 @@ private:
     QLineEdit* m_port;
     QComboBox* m_typ;
     QLineEdit* m_backup;
+    QLineEdit* m_arbeitsordner;
     std::vector<QLabel*> m_beschriftungen;
     QMenu* m_dateiMenü;
     QMenu* m_befehlsMenü;

@@ -49,7 +49,8 @@ struct Protokollstand {
 struct ModulState {
     Datenbank db; // the host's database, opened by vemotrixDBName
     QString datenbankName;
-    QString Datenbankverzeichnis; // where all working files lie
+    QString Datenbankverzeichnis; // where all working files lie: the workplace's work folder
+    QString Arbeitsverzeichnis;   // the work folder the host chose; empty: beside a database file
 
     QStringList selektorTabelle = QStringList(51); // index 4 the Selektor, 19 and 22 "LastFile" lines
     QString& Selektor() { return selektorTabelle[4]; }

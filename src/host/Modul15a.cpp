@@ -1,5 +1,6 @@
 #include "host/Modul15a.h"
 
+#include "core/Arbeitsordner.h"
 #include "core/ModulState.h"
 #include "core/Schluesselvergabe.h"
 #include "grid/EinleseDatenController.h"
@@ -45,10 +46,18 @@ void vemo0100Modul15a::setVemotrixDBName(const QString& pfad) {
     mitFalle([&] {
         const Datenbank neu = Datenbank::OpenDatabase(pfad);
         neu.TableDefs("Kunde"); // a database without customers fails now, not later
+        m.Datenbankverzeichnis = arbeitsordner(pfad, m.Arbeitsverzeichnis, settings());
         m.db = neu;
         m.datenbankName = pfad;
-        m.Datenbankverzeichnis = QDir::toNativeSeparators(QFileInfo(pfad).absolutePath());
     });
+}
+
+QString vemo0100Modul15a::Arbeitsverzeichnis() const {
+    return modul().Arbeitsverzeichnis;
+}
+
+void vemo0100Modul15a::setArbeitsverzeichnis(const QString& ordner) {
+    modul().Arbeitsverzeichnis = ordner;
 }
 
 QVariant vemo0100Modul15a::vmxReplicaID() const {

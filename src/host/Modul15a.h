@@ -23,8 +23,12 @@ public:
     vemo0100Modul15a& operator=(const vemo0100Modul15a&) = delete;
 
     vemo::Datenbank vemotrixDB() const;
-    // Opens the database; its directory is where all working files lie.
+    // Opens the database, a file or a server's URI. The working files lie in the work folder:
+    // the one set below, else beside a database file, else in the folder of the settings.
     void setVemotrixDBName(const QString& pfad);
+    // The workplace's own folder for working files; set it before the database.
+    QString Arbeitsverzeichnis() const;
+    void setArbeitsverzeichnis(const QString& ordner);
     QVariant vmxReplicaID() const;
     void setVmxReplicaID(const QVariant& id);
     QString Sprache() const;

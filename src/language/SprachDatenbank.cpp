@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace vemo {
 
@@ -22,7 +23,8 @@ void spracheDatenbankAnlegen(const QString& verzeichnis) {
 
 void spracheEinstellen(const QString& sprache) {
     Sprachen& sprachen = modul().sprachen;
-    sprachen.setVerzeichnisDatenbank(modul().Datenbankverzeichnis);
+    // The language database is the office's, beside the database, not the workplace's.
+    sprachen.setVerzeichnisDatenbank(QFileInfo(modul().datenbankName).absolutePath());
     sprachen.setNameDatenbank(sprachdatenbank::DateiName);
     sprachen.setPasswort(sprachdatenbank::Passwort);
     sprachen.setVersion(komponentenVersion);

@@ -1,5 +1,6 @@
 #include "platform/SettingsStore.h"
 
+#include <QFileInfo>
 #include <QSettings>
 
 namespace vemo {
@@ -25,6 +26,10 @@ QString QtSettingsStore::GetSetting(const QString& abschnitt, const QString& sch
 void QtSettingsStore::SaveSetting(const QString& abschnitt, const QString& schlüssel, const QString& wert) {
     m_s->setValue(abschnitt + "/" + schlüssel, wert);
     m_s->sync();
+}
+
+QString QtSettingsStore::ordner() const {
+    return QFileInfo(m_s->fileName()).absolutePath();
 }
 
 QString SpeicherSettingsStore::GetSetting(const QString& abschnitt, const QString& schlüssel,

@@ -15,6 +15,8 @@ public:
     virtual QString GetSetting(const QString& abschnitt, const QString& schlüssel,
                                const QString& vorgabe = {}) const = 0;
     virtual void SaveSetting(const QString& abschnitt, const QString& schlüssel, const QString& wert) = 0;
+    // The folder the settings are kept in: a workplace's own place.
+    virtual QString ordner() const = 0;
 };
 
 // Over QSettings: per user under the application's name, or in a file of its own (--settings).
@@ -27,6 +29,7 @@ public:
     QString GetSetting(const QString& abschnitt, const QString& schlüssel,
                        const QString& vorgabe = {}) const override;
     void SaveSetting(const QString& abschnitt, const QString& schlüssel, const QString& wert) override;
+    QString ordner() const override;
 
 private:
     explicit QtSettingsStore(std::unique_ptr<QSettings> s);
@@ -39,8 +42,10 @@ public:
     QString GetSetting(const QString& abschnitt, const QString& schlüssel,
                        const QString& vorgabe = {}) const override;
     void SaveSetting(const QString& abschnitt, const QString& schlüssel, const QString& wert) override;
+    QString ordner() const override { return ordnerPfad; }
 
     QMap<QString, QString> werte; // "section/key"
+    QString ordnerPfad;
 };
 
 } // namespace vemo

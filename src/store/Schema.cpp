@@ -33,12 +33,19 @@ void datenbankAnlegen(const QString& pfad, bool demo) {
     skripteAusführen(db, "host-*.sql");
     if (demo)
         skripteAusführen(db, "demo-*.sql");
-    const QDir neben = QFileInfo(pfad).absoluteDir();
+    worttabellenAnlegen(QFileInfo(pfad).absolutePath(), true);
+}
+
+void worttabellenAnlegen(const QString& ordner, bool ersetzen) {
+    const QDir dir(ordner);
     for (const QString& tabelle : {QString("Ruvo.MNU"), QString("Ruvo.MUL")}) {
-        QFile::remove(neben.filePath(tabelle));
-        if (!QFile::copy(":/data/" + tabelle, neben.filePath(tabelle)))
-            throw fehler::mit(fehler::PfadZugriff, neben.filePath(tabelle));
-        QFile::setPermissions(neben.filePath(tabelle),
+        const QString ziel = dir.filePath(tabelle);
+        if (QFileInfo::exists(ziel) && !ersetzen)
+            continue;
+        QFile::remove(ziel);
+        if (!QFile::copy(":/data/" + tabelle, ziel))
+            throw fehler::mit(fehler::PfadZugriff, ziel);
+        QFile::setPermissions(ziel,
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
 }

@@ -10,6 +10,10 @@ namespace vemo {
 // installation are written beside it.
 void datenbankAnlegen(const QString& pfad, bool demo);
 
+// Writes the host's word tables \Ruvo.MNU and \Ruvo.MUL into the folder; tables already there
+// are kept unless they are to be replaced.
+void worttabellenAnlegen(const QString& ordner, bool ersetzen);
+
 // Runs the scripts of the resources whose names match the pattern, in the order of their names.
 class Datenbank;
 void skripteAusführen(const Datenbank& db, const QString& muster);

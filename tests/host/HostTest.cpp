@@ -1,5 +1,6 @@
 #include "core/Arbeitsdateien.h"
 #include "core/Arbeitsdateisperre.h"
+#include "core/Arbeitsordner.h"
 #include "core/Geraetetypen.h"
 #include "host/DateiEinlesen.h"
 #include "host/Dateinummern.h"
@@ -225,3 +226,27 @@ TEST_F(HostTest, ARunThatCannotFinishIsToldBeforeAnythingIsStored) {
 }
 
 } // namespace
+
+// Each workplace reads into its own work folder: the database's folder gets no working file, word
+// tables a workplace already has are its own, and a server's database, which has no folder, puts
+// the working files beside the workplace's settings.
+TEST_F(HostTest, WorkingFilesLieInTheWorkplacesFolder) {
+    QDir().mkpath(pfad("platz"));
+    datei("platz/Ruvo.MNU", "eigene Wörter\r\n");
+    vemo0100Modul15a k(m_ui, m_settings);
+    k.setArbeitsverzeichnis(pfad("platz"));
+    k.setVemotrixDBName(m_dbPfad);
+    k.setPrüfgeräteTypID(100);
+    k.EinlesenAusDateiName(test::quelle("samples/corvex-verteilung.ser"));
+
+    EXPECT_GT(anzahl("0100_EinleseDaten"), 0);
+    EXPECT_TRUE(QFileInfo::exists(pfad("platz/") + datei::Ruvo));
+    EXPECT_FALSE(QFileInfo::exists(pfad(datei::Ruvo)));
+    EXPECT_EQ(lesen(pfad("platz/Ruvo.MNU")), "eigene Wörter\r\n");
+    EXPECT_TRUE(QFileInfo::exists(pfad("platz/Ruvo.MUL")));
+
+    m_settings.ordnerPfad = pfad("einstellungen");
+    EXPECT_EQ(arbeitsordner("postgresql://prüfer@/büro", "", m_settings), pfad("einstellungen"));
+    EXPECT_TRUE(QFileInfo::exists(pfad("einstellungen/Ruvo.MNU")));
+    EXPECT_EQ(arbeitsordner(m_dbPfad, "", m_settings), m_dir.path());
+}
