@@ -9,6 +9,7 @@ class QLineEdit;
 class QLabel;
 class QMenu;
 class QAction;
+class Portauswahl;
 class Uebersicht;
 class vemo0100Modul15a;
 
@@ -53,7 +54,7 @@ private:
     vemo::SettingsStore& m_einstellungen;
     QLineEdit* m_datenbank;
     QComboBox* m_sprache;
-    QLineEdit* m_port;
+    Portauswahl* m_port;
     QComboBox* m_typ;
     QLineEdit* m_backup;
     std::vector<QLabel*> m_beschriftungen;
