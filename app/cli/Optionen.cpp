@@ -158,7 +158,7 @@ std::optional<QString> Optionen::option(const QString& name) const {
     const auto it = befehlsoptionen.find(name);
     if (it == befehlsoptionen.end())
         return std::nullopt;
-    return it->last();
+    return it->isEmpty() ? QString() : it->last(); // a switch has no value
 }
 
 QStringList Optionen::optionen(const QString& name) const {
