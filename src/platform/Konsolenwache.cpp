@@ -24,7 +24,7 @@ QPointer<Konsolenwache> wache;
 BOOL WINAPI beiCtrlC(DWORD art) {
     if (art != CTRL_C_EVENT || !wache)
         return FALSE;
-    QMetaObject::invokeMethod(wache, &Konsolenwache::unterbrochen, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(wache.data(), &Konsolenwache::unterbrochen, Qt::QueuedConnection);
     return TRUE;
 }
 
