@@ -1,6 +1,7 @@
 #include "Befehle.h"
 
 #include "Instrumentbefehl.h"
+#include "Portbefehle.h"
 #include "Sitzung.h"
 
 #include "core/ModulState.h"
@@ -218,14 +219,32 @@ int importieren(const Optionen& o) {
     });
 }
 
+int ports(const Optionen&) {
+    QTextStream aus(stdout);
+    return portsBefehl(aus);
+}
+
+int detect(const Optionen& o) {
+    QTextStream aus(stdout);
+    return detectBefehl(o, aus);
+}
+
 } // namespace
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
-        {"init-db", initDb},        {"read-file", readFile},         {"grid", grid},
-        {"assign", assign},         {"delete-rows", deleteRows},     {"take-over", takeOver},
-        {"receive", receive},       {"assign-device", assignDevice}, {"import", importieren},
+        {"init-db", initDb},
+        {"read-file", readFile},
+        {"grid", grid},
+        {"assign", assign},
+        {"delete-rows", deleteRows},
+        {"take-over", takeOver},
+        {"receive", receive},
+        {"assign-device", assignDevice},
+        {"import", importieren},
         {"instrument", instrument},
+        {"ports", ports},
+        {"detect", detect},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

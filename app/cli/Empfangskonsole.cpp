@@ -6,71 +6,31 @@
 #include "links/SorelinUebertragung.h"
 #include "links/ZemakDialog.h"
 
-#include <QSocketNotifier>
 #include <QTimer>
-#include <csignal>
 #include <cstdio>
-#include <sys/socket.h>
-#include <unistd.h>
 
 using namespace vemo;
 
-namespace {
-
-// The signal handler may only write a byte; the event loop does the rest.
-int ctrlC[2] = {-1, -1};
-
-void beiCtrlC(int) {
-    const char c = 1;
-    [[maybe_unused]] const ssize_t n = ::write(ctrlC[0], &c, 1);
-}
-
-} // namespace
-
 Empfangskonsole::Empfangskonsole(bool immerJa) : KonsolenUi(immerJa) {
-    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, ctrlC) != 0)
-        return;
-    m_abbruch = new QSocketNotifier(ctrlC[1], QSocketNotifier::Read);
-    QObject::connect(m_abbruch, &QSocketNotifier::activated, [this] {
-        char c;
-        [[maybe_unused]] const ssize_t n = ::read(ctrlC[1], &c, 1);
-        m_ctrlC = true;
+    QObject::connect(&m_wache, &Konsolenwache::unterbrochen, [this] { abbrechen(); });
+    QObject::connect(&m_wache, &Konsolenwache::zeileEingegeben, [this] {
         if (m_form)
-            m_form->abbrechen();
-        else if (m_sorelin)
-            m_sorelin->abbrechen();
-        else if (m_kontalex)
-            m_kontalex->abbrechen();
-        else if (m_abfrage)
-            m_abfrage->abbrechen();
-        else
-            modul().Abbruchmerker = 1; // the run ends as aborted, and a wait still to come at once
-    });
-    struct sigaction aktion {};
-    aktion.sa_handler = beiCtrlC;
-    sigemptyset(&aktion.sa_mask);
-    aktion.sa_flags = SA_RESTART;
-    sigaction(SIGINT, &aktion, nullptr);
-
-    m_eingabe = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read);
-    QObject::connect(m_eingabe, &QSocketNotifier::activated, [this] {
-        char puffer[256];
-        const ssize_t n = ::read(STDIN_FILENO, puffer, sizeof puffer);
-        if (n <= 0) {
-            m_eingabe->setEnabled(false); // standard input is closed: nobody will press Enter
-            return;
-        }
-        if (m_form && std::find(puffer, puffer + n, '\n') != puffer + n)
             m_form->enterGedrückt();
     });
 }
 
-Empfangskonsole::~Empfangskonsole() {
-    signal(SIGINT, SIG_DFL);
-    delete m_abbruch;
-    delete m_eingabe;
-    ::close(ctrlC[0]);
-    ::close(ctrlC[1]);
+void Empfangskonsole::abbrechen() {
+    m_ctrlC = true;
+    if (m_form)
+        m_form->abbrechen();
+    else if (m_sorelin)
+        m_sorelin->abbrechen();
+    else if (m_kontalex)
+        m_kontalex->abbrechen();
+    else if (m_abfrage)
+        m_abfrage->abbrechen();
+    else
+        modul().Abbruchmerker = 1; // the run ends as aborted, and a wait still to come at once
 }
 
 void Empfangskonsole::zeigeNichtModal(DialogController& dialog) {

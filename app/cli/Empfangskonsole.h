@@ -1,10 +1,9 @@
 #pragma once
 
 #include "platform/KonsolenUi.h"
+#include "platform/Konsolenwache.h"
 
 #include <QPointer>
-
-class QSocketNotifier;
 
 namespace vemo {
 class Form2;
@@ -21,12 +20,12 @@ class frmZEMAK;
 class Empfangskonsole : public vemo::KonsolenUi {
 public:
     explicit Empfangskonsole(bool immerJa);
-    ~Empfangskonsole() override;
 
     void zeigeNichtModal(vemo::DialogController& dialog) override;
     int zeigeModal(vemo::DialogController& dialog) override;
 
 private:
+    void abbrechen();
     void hinweisZeigen();
     void zustandZeigen();
     void sendTextZeigen();
@@ -40,8 +39,7 @@ private:
     QPointer<vemo::frmZEMAK> m_abfrage;
     QString m_zustand;
     QString m_prozentZehner;
-    QSocketNotifier* m_abbruch = nullptr;
-    QSocketNotifier* m_eingabe = nullptr;
+    vemo::Konsolenwache m_wache;
     QString m_gezeigt;
     bool m_ctrlC = false; // pressed since the console was set up
 };

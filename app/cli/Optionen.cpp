@@ -24,6 +24,13 @@ const char* const Gebrauch =
     "  assign-device --customer K [--plant A] [--inspection P]\n"
     "                          bulk assignment of the newest device's read-in rows\n"
     "  import SOURCE           bring an older database's inspections in\n"
+    "  ports                   the serial ports of this computer, one a line (ports and detect\n"
+    "                          need no --db)\n"
+    "  detect [--port N|PATH]...\n"
+    "                          which instrument answers on which port (every port of the computer\n"
+    "                          when none is named): the 37xx family and the Kontalex family are\n"
+    "                          asked; the printed dump (100) and the block transfer (102) send only\n"
+    "                          on their key and cannot be found\n"
     "DB is a database file or a server's URI (postgresql://user@host:port/dbname). The working\n"
     "files lie in --workdir, else beside a database file, else in the folder of the settings.\n";
 
@@ -67,6 +74,8 @@ const std::vector<Befehlsform> befehlsformen{
      {"sync-clock", "clear-memory"}},
     {"assign-device", 0, {"customer", "plant", "inspection"}, {}},
     {"import", 1, {}, {}},
+    {"ports", 0, {}, {}},
+    {"detect", 0, {"port"}, {}},
 };
 
 const Befehlsform* befehlsform(const QString& name) {
@@ -131,10 +140,10 @@ bool befehlLesen(const Befehlsform& form, const QStringList& rest, Optionen& o, 
     }
     for (const QString& name : form.werte)
         if (p.isSet(name))
-            o.befehlsoptionen.insert("--" + name, p.value(name));
+            o.befehlsoptionen.insert("--" + name, p.values(name));
     for (const QString& name : form.schalter)
         if (p.isSet(name))
-            o.befehlsoptionen.insert("--" + name, QString());
+            o.befehlsoptionen.insert("--" + name, {});
     return true;
 }
 
@@ -144,7 +153,11 @@ std::optional<QString> Optionen::option(const QString& name) const {
     const auto it = befehlsoptionen.find(name);
     if (it == befehlsoptionen.end())
         return std::nullopt;
-    return *it;
+    return it->isEmpty() ? QString() : it->last(); // a switch has no value
+}
+
+QStringList Optionen::optionen(const QString& name) const {
+    return befehlsoptionen.value(name);
 }
 
 bool Optionen::schalter(const QString& name) const {

@@ -26,11 +26,14 @@ struct Optionen {
     QString prüfung;
     bool ja = false;
     QString befehl;
-    QStringList argumente;                  // the command's own arguments
-    QMap<QString, QString> befehlsoptionen; // by name ("--rows"); a switch holds an empty text
+    QStringList argumente; // the command's own arguments
+    // By name ("--rows"), each value the option was given; a switch holds none.
+    QMap<QString, QStringList> befehlsoptionen;
 
-    // The value of a command option ("--rows 1-3"), or nothing.
+    // The value of a command option ("--rows 1-3"), the last one when given more often; or nothing.
     std::optional<QString> option(const QString& name) const;
+    // Every value of an option that may be given more than once ("--port A --port B").
+    QStringList optionen(const QString& name) const;
     bool schalter(const QString& name) const;
 };
 

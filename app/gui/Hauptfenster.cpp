@@ -1,5 +1,6 @@
 #include "Hauptfenster.h"
 
+#include "Portauswahl.h"
 #include "Uebersicht.h"
 #include "Zertifikatswerte.h"
 
@@ -93,14 +94,15 @@ QWidget* Hauptfenster::eigenschaftenBauen() {
     m_sprache->addItems(SprachenListe);
     connect(m_sprache, &QComboBox::activated, this, [this] { spracheSetzen(m_sprache->currentText()); });
     zeile("Sprache", m_sprache);
-    m_port = new QLineEdit;
-    m_port->setToolTip("1 = COM1 = /dev/ttyS0; a device path such as /dev/pts/3 is used as it is");
-    connect(m_port, &QLineEdit::editingFinished, this, &Hauptfenster::eigenschaftenÜbernehmen);
+    m_port = new Portauswahl;
+    connect(m_port, &Portauswahl::portGesetzt, this, &Hauptfenster::eigenschaftenÜbernehmen);
     zeile("Schnittstelle", m_port);
     m_typ = new QComboBox;
     for (const auto& t : gerätetypen())
         m_typ->addItem(QString::number(t.code) + "  " + Gerätenamen.at(t.code), t.code);
     connect(m_typ, &QComboBox::activated, this, &Hauptfenster::eigenschaftenÜbernehmen);
+    connect(m_port, &Portauswahl::instrumentGefunden, this,
+            [this](int typ) { m_typ->setCurrentIndex(std::max(0, m_typ->findData(typ))); });
     zeile("Gerätetyp", m_typ);
     m_backup = new QLineEdit;
     connect(m_backup, &QLineEdit::editingFinished, this, &Hauptfenster::eigenschaftenÜbernehmen);

@@ -10,6 +10,7 @@ class QPushButton;
 class QLabel;
 class QMenu;
 class QAction;
+class Portauswahl;
 class Uebersicht;
 class vemo0100Modul15a;
 
@@ -56,7 +57,7 @@ private:
     vemo::SettingsStore& m_einstellungen;
     QLineEdit* m_datenbank;
     QComboBox* m_sprache;
-    QLineEdit* m_port;
+    Portauswahl* m_port;
     QComboBox* m_typ;
     QLineEdit* m_backup;
     QLineEdit* m_arbeitsordner;
