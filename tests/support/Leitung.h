@@ -6,6 +6,7 @@
 #include <QDeadlineTimer>
 #include <QProcess>
 #include <QStringList>
+#include <QTimer>
 #include <memory>
 
 namespace vemo::test {
@@ -21,6 +22,12 @@ inline std::unique_ptr<SpeicherCommPort> speicherleitungEinstecken(int stückgr�
         return std::move(SpeicherCommPort::paar().a);
     };
     return std::move(paar.b);
+}
+
+// Sends the pieces one after the other, each in a turn of the event loop of its own, the gap apart.
+inline void nacheinanderSenden(CommPort& ende, const QList<QByteArray>& stücke, int abstand) {
+    for (qsizetype i = 0; i < stücke.size(); ++i)
+        QTimer::singleShot(int(abstand * (i + 1)), &ende, [&ende, s = stücke[i]] { ende.Output(s); });
 }
 
 // The simulator program on a pseudo-terminal of its own, stopped when the object goes.
