@@ -103,22 +103,6 @@ TEST_F(TransferTest, AnAbortDuringReceptionKeepsWhatCameAndParsesNothing) {
     EXPECT_TRUE(test::inhalt(arbeitsdatei(datei::Ruvo)).startsWith("RUVO GmbH"));
 }
 
-TEST_F(TransferTest, A37xxMemoryIsReadAndKeptWithItsNumberedCopy) {
-    const auto sim = zemakEinstecken(107, {"--records", "5"});
-    m_komponente->DatenEmpfangen();
-
-    EXPECT_EQ(m_ui.dialoge, QStringList{"vemo::frmZEMAK"});
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(modul().Abbruchmerker, 0);
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 5);
-    const QByteArray ruvo = test::inhalt(arbeitsdatei(datei::Ruvo));
-    EXPECT_TRUE(ruvo.startsWith("ZEMAK 3740B,V1.12,00471106\r\n"));
-    EXPECT_TRUE(ruvo.contains("\r\nQD 2,00000005,\r\n"));
-    ASSERT_EQ(sicherungen(), QStringList{"00000001.ser"});
-    EXPECT_EQ(test::inhalt(pfad("sicherung/00000001.ser")), ruvo);
-    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000001");
-}
-
 TEST_F(TransferTest, AnEmpty37xxMemoryEndsTheTransferWithTwoMessages) {
     const auto sim = zemakEinstecken(103, {"--records", "0"});
     m_komponente->DatenEmpfangen();
