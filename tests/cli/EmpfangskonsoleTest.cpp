@@ -2,7 +2,7 @@
 
 #include "core/Arbeitsdateien.h"
 #include "host/Modul15a.h"
-#include "links/LinkHilfen.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include <QDir>

@@ -1,4 +1,5 @@
-#include "links/LinkHilfen.h"
+#include "support/Kommandozeile.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include "store/Datenbank.h"
@@ -7,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
-#include <QProcess>
 
 namespace vemo::test {
 namespace {
@@ -15,12 +15,6 @@ namespace {
 // vemo0100 instrument with a 37xx instrument in the simulator on a pseudo-terminal, and without one.
 class InstrumentTest : public Testumgebung {
 protected:
-    struct Lauf {
-        int status = -1;
-        QString aus;
-        QString fehler;
-    };
-
     void SetUp() override {
         Testumgebung::SetUp();
         ASSERT_EQ(vemo({"init-db", db()}).status, 0);
@@ -33,13 +27,7 @@ protected:
         if (argumente.value(0) != "init-db")
             alle = QStringList{"--db", db(), "--settings", pfad("cli/settings.ini"), "--type", "104"} +
                    global + argumente;
-        QProcess p;
-        p.start(QString(VEMO_BIN_DIR) + "/vemo0100", alle);
-        if (!p.waitForFinished(30000))
-            p.kill();
-        return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-                QString::fromLocal8Bit(p.readAllStandardOutput()),
-                QString::fromLocal8Bit(p.readAllStandardError())};
+        return vemo0100(alle);
     }
     Lauf amPort(const QStringList& argumente, const QStringList& global = {}) const {
         return vemo(QStringList{"instrument"} + argumente, QStringList{"--port", pfad("port")} + global);

@@ -1,36 +1,25 @@
+#include "support/Dateien.h"
+#include "support/Kommandozeile.h"
 #include "support/Testumgebung.h"
 
-#include "links/LinkHilfen.h"
+#include "support/Leitung.h"
 
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
 namespace vemo::test {
 namespace {
 
-struct Ergebnis {
-    int status;
-    QByteArray aus;
-    QString fehler;
-};
-
 // The command line reads a logger dump headless: the start given stores the series.
 class LoggerBefehlTest : public Testumgebung {
 protected:
-    Ergebnis vemo0100(const QStringList& argumente) {
-        QProcess p;
-        p.start(QString(VEMO_BIN_DIR) + "/vemo0100", argumente);
-        EXPECT_TRUE(p.waitForFinished(20000)) << argumente.join(' ').toStdString();
-        return {p.exitCode(), p.readAllStandardOutput(), QString::fromLocal8Bit(p.readAllStandardError())};
-    }
     QStringList global() const {
         return {"--db", m_db, "--settings", pfad("s.ini"), "--backup", pfad("sicherung")};
     }
-    Ergebnis lesen(const QStringList& auswahl, const QStringList& hinten,
-                   const QString& dump = quelle("samples/corvex-datenlogger.ser")) {
+    Lauf lesen(const QStringList& auswahl, const QStringList& hinten,
+               const QString& dump = quelle("samples/corvex-datenlogger.ser")) {
         return vemo0100(global() + auswahl + QStringList{"read-file", dump} + hinten);
     }
     qsizetype kopien() const { return QDir(pfad("sicherung")).entryList(QDir::Files).size(); }
@@ -48,15 +37,15 @@ protected:
 
 TEST_F(LoggerBefehlTest, StartSpeichertDieReiheUndJsonZeigtSie) {
     const QStringList auswahl{"--customer", "1", "--plant", "2"};
-    const Ergebnis gespeichert = lesen(auswahl, {"--start", "14.03.2026 07:30:00"});
+    const Lauf gespeichert = lesen(auswahl, {"--start", "14.03.2026 07:30:00"});
     EXPECT_EQ(gespeichert.status, 0) << gespeichert.fehler.toStdString();
     bool zahl = false;
     const int prüfung = gespeichert.aus.trimmed().toInt(&zahl);
     EXPECT_TRUE(zahl && prüfung > 0) << gespeichert.aus.toStdString();
 
-    const Ergebnis json = lesen(auswahl, {"--start", "15.03.2026 00:00:00", "--json"});
+    const Lauf json = lesen(auswahl, {"--start", "15.03.2026 00:00:00", "--json"});
     ASSERT_EQ(json.status, 0) << json.fehler.toStdString();
-    const QJsonObject reihe = QJsonDocument::fromJson(json.aus).object();
+    const QJsonObject reihe = QJsonDocument::fromJson(json.aus.toUtf8()).object();
     EXPECT_NE(reihe["inspection"].toInt(), prüfung) << "each series is an inspection of its own";
     EXPECT_EQ(reihe["start"].toString(), "2026-03-15T00:00:00");
     EXPECT_EQ(reihe["max"].toString(), "233,0");
@@ -68,12 +57,12 @@ TEST_F(LoggerBefehlTest, StartSpeichertDieReiheUndJsonZeigtSie) {
 }
 
 TEST_F(LoggerBefehlTest, OhneAnlageOderStartWirdNichtsGespeichert) {
-    const Ergebnis ohneAnlage = lesen({"--customer", "1"}, {"--start", "14.03.2026 07:30:00"});
+    const Lauf ohneAnlage = lesen({"--customer", "1"}, {"--start", "14.03.2026 07:30:00"});
     EXPECT_EQ(ohneAnlage.status, 1);
     EXPECT_TRUE(ohneAnlage.fehler.contains("Zuvor eine Anlage...")) << ohneAnlage.fehler.toStdString();
     EXPECT_TRUE(ohneAnlage.aus.isEmpty());
 
-    const Ergebnis ohneStart = lesen({"--customer", "1", "--plant", "2"}, {});
+    const Lauf ohneStart = lesen({"--customer", "1", "--plant", "2"}, {});
     EXPECT_EQ(ohneStart.status, 0);
     EXPECT_TRUE(ohneStart.fehler.contains("--start")) << ohneStart.fehler.toStdString();
     EXPECT_TRUE(ohneStart.aus.isEmpty());
@@ -83,18 +72,16 @@ TEST_F(LoggerBefehlTest, OhneAnlageOderStartWirdNichtsGespeichert) {
 
 // The head is found by its labels, whatever separator and blank lines stand behind the mark.
 TEST_F(LoggerBefehlTest, EinKopfMitTrennzeile) {
-    QFile dump(pfad("trennzeile.ser"));
-    ASSERT_TRUE(dump.open(QIODevice::WriteOnly));
-    dump.write("RUVO GmbH 0100 Multi    \r\n------------------------\r\n4470D    No. 98120-00471\r\n"
-               "DATEN LOGGER\r\n------------------------\r\n\r\n"
-               "ANZAHL ME\xdfWERTE = 3\r\nINTERVALL       =  10 s\r\n"
-               "UL-N(L) MAX     =  231,0 V\r\nUL-N(L) MIN     =  229,5 V\r\n"
-               "  229,5\r\n  231,0\r\n  230,1\r\n\r\n\r\n\r\n");
-    dump.close();
-    const Ergebnis r = lesen({"--customer", "1", "--plant", "2"},
-                             {"--start", "14.03.2026 07:30:00", "--json"}, dump.fileName());
+    schreiben(pfad("trennzeile.ser"),
+              "RUVO GmbH 0100 Multi    \r\n------------------------\r\n4470D    No. 98120-00471\r\n"
+              "DATEN LOGGER\r\n------------------------\r\n\r\n"
+              "ANZAHL ME\xdfWERTE = 3\r\nINTERVALL       =  10 s\r\n"
+              "UL-N(L) MAX     =  231,0 V\r\nUL-N(L) MIN     =  229,5 V\r\n"
+              "  229,5\r\n  231,0\r\n  230,1\r\n\r\n\r\n\r\n");
+    const Lauf r = lesen({"--customer", "1", "--plant", "2"}, {"--start", "14.03.2026 07:30:00", "--json"},
+                         pfad("trennzeile.ser"));
     ASSERT_EQ(r.status, 0) << r.fehler.toStdString();
-    const QJsonObject reihe = QJsonDocument::fromJson(r.aus).object();
+    const QJsonObject reihe = QJsonDocument::fromJson(r.aus.toUtf8()).object();
     EXPECT_EQ(reihe["count"].toString(), "3");
     EXPECT_EQ(reihe["interval"].toString(), "10");
     EXPECT_EQ(reihe["min"].toString(), "229,5");
@@ -118,10 +105,10 @@ TEST_F(LoggerBefehlTest, EmpfangenerLoggerspeicherMitUndOhneStart) {
             const long reihen = anzahl("datlog37");
             const QStringList start =
                 mitStart ? QStringList{"--start", "14.03.2026 07:30:00"} : QStringList{};
-            const Ergebnis r = vemo0100(global() +
-                                        QStringList{"--customer", "1", "--plant", "2", "--port", pfad("port"),
-                                                    "--type", typ, "receive"} +
-                                        start);
+            const Lauf r = vemo0100(global() +
+                                    QStringList{"--customer", "1", "--plant", "2", "--port", pfad("port"),
+                                                "--type", typ, "receive"} +
+                                    start);
             EXPECT_EQ(r.status, 0) << r.fehler.toStdString();
             EXPECT_EQ(kopien(), vorher + 1);
             EXPECT_EQ(anzahl("datlog37"), reihen + (mitStart ? 1 : 0));

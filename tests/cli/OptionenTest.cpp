@@ -4,9 +4,8 @@
 #include "language/SprachDatenbank.h"
 #include "platform/Version.h"
 #include "store/Variant.h"
+#include "support/Kommandozeile.h"
 #include "support/Testumgebung.h"
-
-#include <QProcess>
 
 namespace vemo::test {
 namespace {
@@ -52,19 +51,6 @@ TEST(OptionenTest, GlobaleOptionenVorUndBefehlsoptionenHinterDemBefehl) {
     EXPECT_FALSE(grid->option("--rows"));
 }
 
-TEST(OptionenTest, HilfeUndVersionBrauchenKeinenBefehl) {
-    for (const QStringList& aufruf :
-         {QStringList{"--help"}, QStringList{"-h"}, QStringList{"--db", "a.db", "-h"},
-          QStringList{"--db", "a.db", "receive", "--help"}}) {
-        const auto o = lesen(aufruf);
-        ASSERT_TRUE(o) << aufruf.join(' ').toStdString();
-        EXPECT_EQ(o->anfrage, Anfrage::Gebrauch) << aufruf.join(' ').toStdString();
-    }
-    const auto o = lesen({"--version"});
-    ASSERT_TRUE(o);
-    EXPECT_EQ(o->anfrage, Anfrage::Version);
-}
-
 // What the contract does not hold is refused, never ignored: an option of another command, a
 // global option behind the command, an option without its value, and what a command does not take.
 TEST(OptionenTest, WasNichtPasstWirdAbgewiesen) {
@@ -107,41 +93,28 @@ TEST_F(SitzungTest, AuswahlDerListeWirdGesetzt) {
     EXPECT_EQ(s.ergebnis(), 0);
 }
 
-struct Lauf {
-    int status;
-    QString aus;
-    QString fehler;
-};
-
-Lauf programm(const QStringList& argumente) {
-    QProcess p;
-    p.start(QString(VEMO_BIN_DIR) + "/vemo0100", argumente);
-    EXPECT_TRUE(p.waitForFinished(10000)) << argumente.join(' ').toStdString();
-    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-            QString::fromLocal8Bit(p.readAllStandardOutput()),
-            QString::fromLocal8Bit(p.readAllStandardError())};
-}
-
 // The usage asked for goes to standard output with status 0; a usage error to stderr with status 2.
 TEST(ProgrammTest, HilfeVersionUndFalscherAufruf) {
-    for (const QStringList& aufruf : {QStringList{"--help"}, QStringList{"-h"}}) {
-        const Lauf l = programm(aufruf);
+    for (const QStringList& aufruf :
+         {QStringList{"--help"}, QStringList{"-h"}, QStringList{"--db", "a.db", "-h"},
+          QStringList{"--db", "a.db", "receive", "--help"}}) {
+        const Lauf l = vemo0100(aufruf);
         EXPECT_EQ(l.status, 0);
         EXPECT_EQ(l.aus, Gebrauch);
         EXPECT_EQ(l.fehler, "");
     }
-    const Lauf version = programm({"--version"});
+    const Lauf version = vemo0100({"--version"});
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.aus, "vemo0100 " + komponentenVersion + "\n");
 
     for (const QStringList& aufruf : {QStringList{"frobnicate"}, QStringList{"--frob"}, QStringList{}}) {
-        const Lauf l = programm(aufruf);
+        const Lauf l = vemo0100(aufruf);
         EXPECT_EQ(l.status, 2) << aufruf.join(' ').toStdString();
         EXPECT_EQ(l.aus, "");
         EXPECT_TRUE(l.fehler.startsWith("vemo0100: ")) << l.fehler.toStdString();
         EXPECT_TRUE(l.fehler.endsWith(Gebrauch)) << l.fehler.toStdString();
     }
-    EXPECT_TRUE(programm({"frobnicate"}).fehler.contains("frobnicate"));
+    EXPECT_TRUE(vemo0100({"frobnicate"}).fehler.contains("frobnicate"));
 }
 
 } // namespace

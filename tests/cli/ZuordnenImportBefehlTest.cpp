@@ -1,18 +1,12 @@
 #include "language/SprachDatenbank.h"
 #include "store/Datenbank.h"
 #include "store/Schema.h"
+#include "support/Kommandozeile.h"
 #include "support/Quelldatenbank.h"
 #include "support/Testumgebung.h"
 
-#include <QProcess>
-
 namespace vemo::test {
 namespace {
-
-struct Ergebnis {
-    int status;
-    QString fehler;
-};
 
 class ZuordnenImportBefehlTest : public Testumgebung {
 protected:
@@ -24,12 +18,8 @@ protected:
         modul().db.Close();
     }
 
-    Ergebnis vemo0100(const QStringList& befehl) const {
-        QProcess p;
-        p.start(QString(VEMO_BIN_DIR) + "/vemo0100",
-                QStringList{"--db", m_dbPfad, "--settings", pfad("s.ini")} + befehl);
-        EXPECT_TRUE(p.waitForFinished(30000)) << befehl.join(' ').toStdString();
-        return {p.exitCode(), QString::fromLocal8Bit(p.readAllStandardError())};
+    Lauf vemo(const QStringList& befehl) const {
+        return vemo0100(QStringList{"--db", m_dbPfad, "--settings", pfad("s.ini")} + befehl);
     }
     QString abfrage(const QString& sql) const {
         const Recordset rs = Datenbank::OpenDatabase(m_dbPfad).OpenRecordset(sql);
@@ -43,24 +33,24 @@ TEST_F(ZuordnenImportBefehlTest, AssignDeviceWritesTheNewestDevicesRows) {
         "INSERT INTO \"0100_EinleseDaten\" (MessungID, GeräteID, AnlageNr) VALUES (1, 1, '001'), (2, 2, "
         "'001'), "
         "(3, 2, '001');");
-    const Ergebnis falsch = vemo0100({"assign-device", "--customer", "1", "--plant", "3"});
+    const Lauf falsch = vemo({"assign-device", "--customer", "1", "--plant", "3"});
     EXPECT_EQ(falsch.status, 1);
     EXPECT_TRUE(falsch.fehler.contains("cannot go to plant 3")) << falsch.fehler.toStdString();
     EXPECT_EQ(abfrage("SELECT Sum(KundeID) FROM 0100_EinleseDaten"), "0");
 
-    const Ergebnis gut = vemo0100({"assign-device", "--customer", "1", "--inspection", "1"});
+    const Lauf gut = vemo({"assign-device", "--customer", "1", "--inspection", "1"});
     EXPECT_EQ(gut.status, 0) << gut.fehler.toStdString();
     EXPECT_EQ(abfrage("SELECT group_concat(KundeID || '/' || AnlageID || '/' || PrüfungID, ' ') FROM "
                       "(SELECT * FROM 0100_EinleseDaten ORDER BY MessungID)"),
               "0/0/0 1/1/1 1/1/1");
-    EXPECT_EQ(vemo0100({"assign-device"}).status, 2);
+    EXPECT_EQ(vemo({"assign-device"}).status, 2);
 }
 
 TEST_F(ZuordnenImportBefehlTest, ImportShowsItsPercentagesAndItsResult) {
     const Quelldatenbank quelle(pfad("alt.db"));
     quelle.zeile(quellzeile("Neubau Ost", "Halle", "!1/1;;Licht#@"));
     quelle.zeile(quellzeile("Neubau Ost", "Halle"));
-    const Ergebnis lauf = vemo0100({"import", quelle.pfad()});
+    const Lauf lauf = vemo({"import", quelle.pfad()});
     EXPECT_EQ(lauf.status, 0) << lauf.fehler.toStdString();
     EXPECT_EQ(lauf.fehler, "0%\n50%\n100%\nvemotrix professional: Importieren erfolgreich beendet\n");
     EXPECT_EQ(abfrage("SELECT Count(*) FROM Kunde WHERE Name = 'Neubau Ost'"), "1");
@@ -71,17 +61,17 @@ TEST_F(ZuordnenImportBefehlTest, ImportShowsItsPercentagesAndItsResult) {
     Datenbank::anlegen(älter).skriptAusführen(
         "CREATE TABLE kunden (Kunden, Adresse, Adresse3, Anlage, Reserve3);"
         "INSERT INTO kunden VALUES ('Altbau West', 'Ring 1', '37073 Göttingen', 'Halle', '');");
-    const Ergebnis unvollständig = vemo0100({"import", älter});
+    const Lauf unvollständig = vemo({"import", älter});
     EXPECT_EQ(unvollständig.status, 1);
     EXPECT_TRUE(unvollständig.fehler.contains("Fehler 3265:  ")) << unvollständig.fehler.toStdString();
     EXPECT_FALSE(unvollständig.fehler.contains("erfolgreich"));
     EXPECT_EQ(abfrage("SELECT Count(*) FROM Kunde WHERE Name IN ('Altbau West', 'xxxxx', '')"), "0");
 
-    const Ergebnis fehlt = vemo0100({"import", pfad("fehlt.mdb")});
+    const Lauf fehlt = vemo({"import", pfad("fehlt.mdb")});
     EXPECT_EQ(fehlt.status, 1);
     EXPECT_TRUE(fehlt.fehler.startsWith("vemotrix professional: Importieren nicht möglich | Fehler 3024:  "))
         << fehlt.fehler.toStdString();
-    EXPECT_EQ(vemo0100({"import"}).status, 2);
+    EXPECT_EQ(vemo({"import"}).status, 2);
 }
 
 } // namespace

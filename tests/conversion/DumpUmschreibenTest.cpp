@@ -1,3 +1,4 @@
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include "conversion/DumpUmschreiben.h"
@@ -22,11 +23,7 @@ protected:
         modul().Datenbankverzeichnis = m_dir.path();
         ZeilenPräfixeSetzen();
     }
-    void dump(const QByteArray& inhalt) {
-        QFile f(pfad("Ruvo.ser"));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(inhalt);
-    }
+    void dump(const QByteArray& bytes) const { test::schreiben(pfad("Ruvo.ser"), bytes); }
     QStringList zeilen() const {
         QStringList z;
         Textdatei f(arbeitsdatei(datei::Ruvo));

@@ -1,3 +1,4 @@
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include "conversion/FesteBreite.h"
@@ -7,8 +8,6 @@
 #include "links/KontalexSpeicher.h"
 #include "links/KontalexText.h"
 #include "platform/Codepage.h"
-
-#include <QFile>
 
 namespace vemo::test {
 namespace {
@@ -22,18 +21,11 @@ protected:
         modul().mnuTexte[405] = "Grenzw.";
         modul().mnuTexte[406] = "Messw.";
     }
-    void satzdatei(const QByteArray& inhalt) const {
-        QFile f(arbeitsdatei(datei::Rs232Txt));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(inhalt);
-    }
+    static void satzdatei(const QByteArray& bytes) { schreiben(arbeitsdatei(datei::Rs232Txt), bytes); }
     QStringList zeilen(const QString& name) const {
-        QFile f(pfad(name));
-        if (!f.open(QIODevice::ReadOnly))
-            return {"<fehlt>"};
-        const QByteArray inhalt = f.readAll();
-        EXPECT_TRUE(inhalt.endsWith("\r\n"));
-        return ausAnsi(inhalt.chopped(2)).split("\r\n");
+        const QByteArray bytes = inhalt(pfad(name));
+        EXPECT_TRUE(bytes.endsWith("\r\n"));
+        return ausAnsi(bytes.chopped(2)).split("\r\n");
     }
     QString bericht(const QString& nummer = "00000007") {
         return KontalexBericht([nummer] { return nummer; });

@@ -8,6 +8,7 @@
 #include "language/SprachDatenbank.h"
 #include "platform/Dialog.h"
 #include "store/Variant.h"
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include <QDir>
@@ -27,16 +28,9 @@ protected:
         modul().BackupVerzeichnis = pfad("sicherung");
     }
 
-    QString datei(const QString& name, const QByteArray& inhalt) const {
-        QFile f(pfad(name));
-        f.open(QIODevice::WriteOnly);
-        f.write(inhalt);
-        return f.fileName();
-    }
-    static QByteArray lesen(const QString& p) {
-        QFile f(p);
-        f.open(QIODevice::ReadOnly);
-        return f.readAll();
+    QString datei(const QString& name, const QByteArray& bytes) const {
+        test::schreiben(pfad(name), bytes);
+        return pfad(name);
     }
     QString lastFile() const { return m_settings.GetSetting("Application", "LastFile"); }
 };
@@ -70,20 +64,6 @@ TEST_F(HostTest, RecognisesTheFamilyFromTheFirstLines) {
     EXPECT_EQ(modul().Selektor(), selektor::Sorelin); // an unreadable file keeps the selector
     ASSERT_EQ(m_ui.meldungen.size(), 1);
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("53 "));
-}
-
-// A saved 37xx memory begins with the instrument's identification line.
-TEST_F(HostTest, SavedMemoriesAreToldByTheirIdentificationLine) {
-    const std::pair<QString, QString> proben[] = {
-        {"zemak-3710.ser", selektor::Zemak},      {"zemak-3710b.ser", selektor::Zemak3710B},
-        {"zemak-3720.ser", selektor::Zemak3720},  {"zemak-3740.ser", selektor::Zemak3740},
-        {"quentavoir.ser", selektor::Quentavoir},
-    };
-    for (const auto& [probe, s] : proben) {
-        GeräteErkennen(test::quelle("samples/" + probe));
-        EXPECT_EQ(modul().Selektor(), s) << probe.toStdString();
-    }
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
 TEST_F(HostTest, FileNumbersAdvancePastCopiesThatExist) {
@@ -182,7 +162,7 @@ TEST_F(HostTest, ReadingAFileCopiesItAndUsesUpANumber) {
     m_ui.gewählteDatei = quelle;
     k.EinlesenAusDatei();
     EXPECT_EQ(modul().Selektor(), selektor::Deutsch);
-    EXPECT_EQ(lesen(arbeitsdatei(datei::Ruvo)), dump); // byte for byte
+    EXPECT_EQ(test::inhalt(arbeitsdatei(datei::Ruvo)), dump); // byte for byte
     EXPECT_EQ(lastFile(), "LastFile = 00000001");
     EXPECT_EQ(modul().dateinameGewählt, quelle);
 

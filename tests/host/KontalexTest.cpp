@@ -1,4 +1,5 @@
-#include "links/LinkHilfen.h"
+#include "support/Dateien.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include "KontalexSpeicher.h"
@@ -18,11 +19,6 @@
 using namespace vemo;
 
 namespace {
-
-QByteArray lesen(const QString& pfad) {
-    QFile f(pfad);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
-}
 
 class KontalexHostTest : public test::Testumgebung {
 protected:
@@ -178,8 +174,8 @@ TEST_F(KontalexHostTest, NummerierteKopieUndBerichtWerdenWiedererkannt) {
 
     // The rendering took the first number, the numbered copy the second.
     EXPECT_EQ(QDir(pfad("sicherung")).entryList(QDir::Files), QStringList{"00000002.ser"});
-    EXPECT_EQ(lesen(pfad("sicherung/00000002.ser")), lesen(arbeitsdatei(datei::Rs232Txt)));
-    EXPECT_EQ(lesen(pfad("00000001.sep")), lesen(arbeitsdatei(datei::Ruvo)));
+    EXPECT_EQ(test::inhalt(pfad("sicherung/00000002.ser")), test::inhalt(arbeitsdatei(datei::Rs232Txt)));
+    EXPECT_EQ(test::inhalt(pfad("00000001.sep")), test::inhalt(arbeitsdatei(datei::Ruvo)));
 
     for (const QString& datei :
          {pfad("sicherung/00000002.ser"), arbeitsdatei(datei::Rs232Sep),
@@ -201,22 +197,19 @@ TEST_F(KontalexHostTest, VerteilerlisteMitVorlaeufigenNummern) {
 
     VerteilerListeSchreiben();
 
-    const QList<QByteArray> liste = lesen(arbeitsdatei(datei::Verteil)).split('\n');
+    const QList<QByteArray> liste = test::inhalt(arbeitsdatei(datei::Verteil)).split('\n');
     ASSERT_EQ(liste.size(), 13);
     EXPECT_EQ(liste[0],
               "\"00000042\",\"1\",\"1\",\"1\",\"Anlage 1\",\"001\",\"001\",\"00:00\",\"01.01.00\"\r");
     EXPECT_TRUE(liste[11].startsWith("\"00000053\",\"1\",\"3\",\"4\",\"\",\"\",\"004\""));
     EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000042");
     EXPECT_TRUE(QFile::exists(pfad("00000042.sep")));
-    EXPECT_EQ(lesen(arbeitsdatei(datei::Ruvo)), lesen(pfad("00000042.sep")));
+    EXPECT_EQ(test::inhalt(arbeitsdatei(datei::Ruvo)), test::inhalt(pfad("00000042.sep")));
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
 
-    QFile ohne(arbeitsdatei(datei::Rs232Txt));
-    ASSERT_TRUE(ohne.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    ohne.write("\"----Dateiende----\",1,1,1,1,1,1,1\r\n");
-    ohne.close();
+    test::schreiben(arbeitsdatei(datei::Rs232Txt), "\"----Dateiende----\",1,1,1,1,1,1,1\r\n");
     VerteilerListeSchreiben();
-    EXPECT_EQ(lesen(arbeitsdatei(datei::Verteil)), QByteArray());
+    EXPECT_EQ(test::inhalt(arbeitsdatei(datei::Verteil)), QByteArray());
     EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000043");
 }
 

@@ -1,12 +1,11 @@
-#include "links/LinkHilfen.h"
 #include "store/Datenbank.h"
 #include "store/Recordset.h"
+#include "support/Kommandozeile.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
-#include <csignal>
 
 namespace {
 
@@ -18,15 +17,13 @@ class ReceiveTest : public test::Testumgebung {
 protected:
     void SetUp() override {
         Testumgebung::SetUp();
-        QProcess init;
-        init.start(programm(), {"init-db", pfad("cli/vemotrix.db")});
-        ASSERT_TRUE(init.waitForFinished(20000));
-        ASSERT_EQ(init.exitCode(), 0) << init.readAllStandardError().toStdString();
+        const test::Lauf init = test::vemo0100({"init-db", pfad("cli/vemotrix.db")});
+        ASSERT_EQ(init.status, 0) << init.fehler.toStdString();
     }
-    static QString programm() { return QString(VEMO_BIN_DIR) + "/vemo0100"; }
     void empfangen(QProcess& p, int typ) {
-        p.start(programm(), {"--db", pfad("cli/vemotrix.db"), "--settings", pfad("cli/settings.ini"),
-                             "--port", pfad("port"), "--type", QString::number(typ), "receive"});
+        p.start(test::vemo0100Programm(),
+                {"--db", pfad("cli/vemotrix.db"), "--settings", pfad("cli/settings.ini"), "--port",
+                 pfad("port"), "--type", QString::number(typ), "receive"});
         ASSERT_TRUE(p.waitForStarted(5000));
     }
     static QStringList zeilen(QProcess& p) {
@@ -56,29 +53,6 @@ TEST_F(ReceiveTest, ZeigtDenFortschrittWieDerDumpempfang) {
     QFile ruvo(pfad("cli/Ruvo.ser"));
     ASSERT_TRUE(ruvo.open(QIODevice::ReadOnly));
     EXPECT_TRUE(ruvo.readAll().startsWith("ZEMAK 3710B,V3.02,00471103\r\n"));
-}
-
-TEST_F(ReceiveTest, StrgCBeendetDieSucheWieDerAbbruchknopf) {
-    // A 3710 does not answer as a 3710B: the search would go on for ever.
-    test::Simulator sim({"--type", "103", "--records", "3", "--link", pfad("port")});
-    QProcess p;
-    empfangen(p, 104);
-    QDeadlineTimer frist(10000);
-    QString bisher;
-    while (!bisher.contains("Alle Messleitungen") && !frist.hasExpired() && p.state() == QProcess::Running) {
-        p.waitForReadyRead(100);
-        bisher += QString::fromLocal8Bit(p.readAllStandardError());
-    }
-    EXPECT_FALSE(p.waitForFinished(3 * 300)) << "searching, a few ticks long";
-    ::kill(pid_t(p.processId()), SIGINT);
-    ASSERT_TRUE(p.waitForFinished(10000));
-
-    EXPECT_EQ(p.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(p.exitCode(), 1);
-    const QString alles = bisher + zeilen(p).join('\n');
-    EXPECT_FALSE(alles.contains("gefunden"));
-    EXPECT_TRUE(alles.endsWith("vemotrix professional: Datenübertragung abgebrochen")) << alles.toStdString();
-    EXPECT_FALSE(QFile::exists(pfad("cli/Ruvo.ser")));
 }
 
 } // namespace

@@ -72,19 +72,6 @@ TEST_F(SprachDatenbankTest, JederTextIstAuffindbarUndÜbersetzt) {
     EXPECT_EQ(mängel, QStringList());
 }
 
-TEST_F(SprachDatenbankTest, DieTexteDesProgrammsStehenBereit) {
-    // Reason labels, instrument names and a caption of the host, each as the component asks for it.
-    EXPECT_EQ(m_sprachen.xText("Grund1", Deutschland), "Neuanlage");
-    EXPECT_EQ(m_sprachen.xText("Grund4"), "Periodic inspection");
-    EXPECT_EQ(m_sprachen.xText("Ser. Nr.:"), "Serial No.:");
-    EXPECT_EQ(m_sprachen.xText("Datenübertragung läuft..."), "Data transfer in progress...");
-    EXPECT_EQ(m_sprachen.xText("RS232-Taste am Corvex drücken ..."), "Press the RS232 key on the Corvex ...");
-    EXPECT_EQ(m_sprachen.xText(" keine Anlage"), " no installation");
-    EXPECT_EQ(m_sprachen.xText("Sicherungsverzeichnis"), "Backup folder");
-    EXPECT_GT(m_sprachen.xText("EinlesedatenHilfetext", Deutschland).size(), 100);
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-}
-
 TEST_F(SprachDatenbankTest, SpracheEinstellenÖffnetDieDatenbankBeimHost) {
     spracheEinstellen(Englisch);
     EXPECT_TRUE(m_ui.meldungen.isEmpty());

@@ -62,14 +62,6 @@ protected:
     Tools m_tools;
 };
 
-TEST_F(RegistryTest, WurzelnHabenIhreNamen) {
-    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000002), "HKEY_LOCAL_MACHINE");
-    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000000), "HKEY_CLASSES_ROOT");
-    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000003), "HKEY_USERS");
-    EXPECT_EQ(m_tools.SchlüsselPfad(0x80000004), "");
-    EXPECT_EQ(m_tools.SchlüsselPfad(0), "");
-}
-
 TEST_F(RegistryTest, SchlüsselUndTexteWerdenGelesen) {
     quint32 vemotrix = 0;
     ASSERT_TRUE(m_tools.SchlüsselÖffnen(Tools::HkeyCurrentUser, "Software\\vemotrix", vemotrix));

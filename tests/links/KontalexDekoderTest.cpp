@@ -1,3 +1,4 @@
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include "KontalexSpeicher.h"
@@ -39,10 +40,7 @@ protected:
                      .arg(g.objektText, g.stromkreisText, g.platzText, g.zeit, g.datum);
         return t;
     }
-    QByteArray lesen(const QString& name) const {
-        QFile f(pfad(name));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
-    }
+    QByteArray lesen(const QString& name) const { return inhalt(pfad(name)); }
 };
 
 const Messung Isolation{15, {{'R', 4, 7, "245"}, {'P', 90, 1, "500"}, {'M', 4, 7, "1"}}};

@@ -1,4 +1,4 @@
-#include "LinkHilfen.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include "Instrument.h"

@@ -1,10 +1,10 @@
-#include "LinkHilfen.h"
+#include "support/Dateien.h"
+#include "support/Leitung.h"
 #include "support/SorelinBild.h"
 #include "support/Testumgebung.h"
 
 #include "PortLeitung.h"
 #include "SorelinGeraet.h"
-#include "SorelinSpeicher.h"
 #include "ansichten/Ansichten.h"
 #include "core/Arbeitsdateien.h"
 #include "links/SorelinUebertragung.h"
@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QFile>
 #include <QLabel>
 #include <QPointer>
 #include <QProgressBar>
@@ -30,29 +29,16 @@ protected:
     void SetUp() override {
         Testumgebung::SetUp();
         modul().CommPort = 1;
-        QFile f(pfad("RS232.SEP"));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(AlteDatei);
+        schreiben(pfad("RS232.SEP"), AlteDatei);
     }
-    void TearDown() override {
-        EXPECT_FALSE(m_wachhund) << "the transfer did not end by itself";
-        Testumgebung::TearDown();
-    }
-    QByteArray datei() const {
-        QFile f(arbeitsdatei(datei::Rs232Sep));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
-    }
-    // Calls the action once the dialog is shown. A transfer still running after five seconds is
-    // aborted, and the test fails instead of hanging.
+    QByteArray datei() const { return inhalt(arbeitsdatei(datei::Rs232Sep)); }
+    // Calls the action once the dialog is shown.
     void imDialog(std::function<void(frmSorelin&)> aktion) {
         m_ui.beiDialog = [this, aktion](DialogController& d) {
             auto* form = qobject_cast<frmSorelin*>(&d);
             ASSERT_NE(form, nullptr);
             aktion(*form);
-            QTimer::singleShot(5000, form, [this, form] {
-                m_wachhund = true;
-                form->abbrechen();
-            });
+            bewachen(*form);
         };
     }
     // The dialog as the driver shows it, with the port's settling shortened.
@@ -64,13 +50,8 @@ protected:
         EXPECT_FALSE(form.istOffen());
         m_puffer = form.empfangspuffer();
     }
-    static void nacheinanderSenden(CommPort& ende, const QList<QByteArray>& stücke, int abstand) {
-        for (qsizetype i = 0; i < stücke.size(); ++i)
-            QTimer::singleShot(int(abstand * (i + 1)), &ende, [&ende, s = stücke[i]] { ende.Output(s); });
-    }
 
     QByteArray m_puffer;
-    bool m_wachhund = false;
 };
 
 TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDieDatei) {
@@ -170,50 +151,6 @@ TEST_F(SorelinUebertragungTest, AbbruchLaesstDieAlteDateiStehen) {
         EXPECT_EQ(datei(), AlteDatei);
         EXPECT_EQ(sendText, fall.stücke.isEmpty() ? QString() : QString("Datenübertragung läuft..."));
     }
-}
-
-TEST_F(SorelinUebertragungTest, GezogenesKabelNachDerStartmarkeWartetBisZumAbbruch) {
-    Simulator sim({"--type", "102", "--records", "40", "--instrument", "4130", "--baud", "9600", "--link",
-                   pfad("port")});
-    ASSERT_FALSE(sim.gerät().isEmpty());
-    modul().portPfad = pfad("port");
-    bool gezogen = false;
-    bool wartetNoch = false;
-    imDialog([&](frmSorelin& form) {
-        sobaldBereit(form, [&sim] { sim.tasteDrücken(); });
-        QObject::connect(&form, &frmSorelin::aktualisiert, &form, [&] {
-            if (gezogen || form.sendText() != "Datenübertragung läuft...")
-                return;
-            gezogen = true;
-            sim.kabelZiehen();
-            QTimer::singleShot(400, &form, [&] {
-                wartetNoch = form.istOffen();
-                form.abbrechen();
-            });
-        });
-    });
-
-    übertragen();
-
-    EXPECT_TRUE(gezogen);
-    EXPECT_TRUE(wartetNoch) << "no time limit after the start mark";
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << "a dead line is silence";
-    EXPECT_EQ(datei(), AlteDatei);
-    EXPECT_TRUE(m_puffer.contains(sorelin::Startmarke));
-}
-
-TEST_F(SorelinUebertragungTest, DasBildDesSimulatorsKommtUnverfaelschtUeberDasPseudoterminal) {
-    Simulator sim(
-        {"--type", "102", "--records", "3", "--instrument", "4130", "--baud", "0", "--link", pfad("port")});
-    ASSERT_FALSE(sim.gerät().isEmpty());
-    modul().portPfad = pfad("port");
-    imDialog([&](frmSorelin& form) { sobaldBereit(form, [&sim] { sim.tasteDrücken(); }); });
-
-    übertragen();
-
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_EQ(datei(), sim::sorelinSpeicher(db(), 4130, 3));
 }
 
 TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {

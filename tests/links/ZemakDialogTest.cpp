@@ -1,5 +1,5 @@
-#include "LinkHilfen.h"
 #include "ZemakUmgebung.h"
+#include "support/Leitung.h"
 
 #include "PortLeitung.h"
 #include "ZemakGeraet.h"

@@ -1,5 +1,5 @@
-#include "LinkHilfen.h"
 #include "ZemakUmgebung.h"
+#include "support/Leitung.h"
 
 #include "ZemakSpeicher.h"
 #include "core/Geraetetypen.h"
@@ -27,9 +27,7 @@ protected:
     // A memory file of n records of the variant, as the component saves it.
     QString speicherdatei(const Zemakvariante& v, int n) {
         const QString name = pfad("speicher" + QString::number(++m_links) + ".ser");
-        QFile f(name);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(sim::ZemakSpeicher::erzeugen(v, n).arbeitsdatei("XG,5", "0"));
+        schreiben(name, sim::ZemakSpeicher::erzeugen(v, n).arbeitsdatei("XG,5", "0"));
         return name;
     }
     static int anzahl(const QStringList& protokoll, const QString& anfang) {
@@ -71,9 +69,7 @@ TEST_F(ZemakLeitungTest, JedeVarianteFindetStelltDieUhrUndSpeichertEinenDatensat
         EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
 
         // The same identification and records as the memory the instrument was given.
-        QFile gegeben(speicher);
-        ASSERT_TRUE(gegeben.open(QIODevice::ReadOnly));
-        const QList<QByteArray> soll = zeilen(gegeben.readAll());
+        const QList<QByteArray> soll = zeilen(inhalt(speicher));
         const QList<QByteArray> ist = zeilen(ruvo());
         ASSERT_EQ(ist.size(), soll.size());
         EXPECT_EQ(ist[0], soll[0]);
@@ -155,16 +151,6 @@ TEST_F(ZemakLeitungTest, FuenfZeichenZuKurzGiltSechsWirdWiederholtFuenfMalBricht
     }
 }
 
-TEST_F(ZemakLeitungTest, EinLeererSpeicherMeldetKeineDaten) {
-    ruvoVorbelegen();
-    const auto sim = simulator(106, {"--records", "0"});
-    übertragen(selektor::Quentavoir);
-    EXPECT_EQ(m_ui.texte(), QStringList{"keine Daten vorhanden !"});
-    EXPECT_EQ(m_ui.meldungen.value(0).titel, "vemotrix professional");
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_EQ(ruvo(), AlteDatei);
-}
-
 TEST_F(ZemakLeitungTest, EinePauseMittenInDerAntwortSchadetNicht) {
     const auto sim = simulator(107, {"--records", "4", "--silent-after", "100", "--silence", "800"});
     QString prozentInDerPause;
@@ -177,33 +163,6 @@ TEST_F(ZemakLeitungTest, EinePauseMittenInDerAntwortSchadetNicht) {
     EXPECT_EQ(modul().Abbruchmerker, 0);
     EXPECT_NE(prozentInDerPause, " 100%");
     EXPECT_EQ(zeilen(ruvo()).size(), 3 + 1 + 4 + 1);
-}
-
-TEST_F(ZemakLeitungTest, GezogenesKabelLaesstDenDialogWartenBisZumAbbruch) {
-    ruvoVorbelegen();
-    const auto sim = simulator(105, {"--records", "150"});
-    bool wartetNoch = false;
-    QString prozentBeimZiehen, prozentDanach;
-
-    übertragen(selektor::Zemak3720, [&](frmZEMAK& form) {
-        sobald(
-            form, [&form] { return !form.prozent().isEmpty(); },
-            [&] {
-                prozentBeimZiehen = form.prozent();
-                sim->kabelZiehen();
-                QTimer::singleShot(4 * frmZEMAK::Taktzeit, &form, [&] {
-                    wartetNoch = form.istOffen();
-                    prozentDanach = form.prozent();
-                    form.abbrechen();
-                });
-            });
-    });
-
-    EXPECT_TRUE(wartetNoch) << "neither the search nor the collection has a time limit";
-    EXPECT_NE(prozentDanach, " 100%");
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_EQ(ruvo(), AlteDatei);
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include "core/Arbeitsdateien.h"
 #include "links/ZemakDialog.h"
 
-#include <QFile>
 #include <QPointer>
 #include <QTimer>
 #include <functional>
@@ -23,10 +23,6 @@ protected:
         Testumgebung::SetUp();
         modul().CommPort = 1;
     }
-    void TearDown() override {
-        EXPECT_FALSE(m_wachhund) << "the dialog did not end by itself";
-        Testumgebung::TearDown();
-    }
 
     void übertragen(const QString& selektor, const std::function<void(frmZEMAK&)>& aktion = {},
                     int frist = 8000) {
@@ -35,10 +31,7 @@ protected:
             ASSERT_TRUE(m_form);
             if (aktion)
                 aktion(*m_form);
-            QTimer::singleShot(frist, m_form, [this] {
-                m_wachhund = true;
-                m_form->abbrechen();
-            });
+            bewachen(*m_form, frist);
         };
         zemakÜbertragen(*zemakVariante(selektor));
     }
@@ -55,18 +48,10 @@ protected:
         uhr->start(5);
     }
 
-    QByteArray ruvo() const {
-        QFile f(arbeitsdatei(datei::Ruvo));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
-    }
-    void ruvoVorbelegen() const {
-        QFile f(pfad("Ruvo.ser"));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(AlteDatei);
-    }
+    QByteArray ruvo() const { return inhalt(arbeitsdatei(datei::Ruvo)); }
+    void ruvoVorbelegen() const { schreiben(pfad("Ruvo.ser"), AlteDatei); }
 
     QPointer<frmZEMAK> m_form;
-    bool m_wachhund = false;
 };
 
 } // namespace vemo::test

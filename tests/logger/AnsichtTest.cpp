@@ -1,3 +1,4 @@
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include "ansichten/Ansichten.h"
@@ -72,14 +73,9 @@ TEST_F(LoggerAnsichtTest, DerDatenpoolZeigtDieReiheÜberDerZeit) {
 // the one-main-board option hides the board number.
 TEST_F(LoggerAnsichtTest, EinEinfacherDumpZeigtVerteilerUndOptionen) {
     modul().datenpoolModus.clear();
-    QFile liste(pfad("Verteil.txt"));
-    ASSERT_TRUE(liste.open(QIODevice::WriteOnly));
-    liste.write("\"00000021\",1,1,1,\"Keller\",1,1,1\r\n\"00000022\",1,2,1,\"Dach\",1,1,1\r\n");
-    liste.close();
-    QFile bericht(pfad("00000022.SEP"));
-    ASSERT_TRUE(bericht.open(QIODevice::WriteOnly));
-    bericht.write("OMNIVAR\r\nS: 002  P: 001\r\n");
-    bericht.close();
+    test::schreiben(pfad("Verteil.txt"),
+                    "\"00000021\",1,1,1,\"Keller\",1,1,1\r\n\"00000022\",1,2,1,\"Dach\",1,1,1\r\n");
+    test::schreiben(pfad("00000022.SEP"), "OMNIVAR\r\nS: 002  P: 001\r\n");
     Zuordnen pool;
     pool.zuordnungZeigen(true);
     pool.listeFüllen();
@@ -95,9 +91,7 @@ TEST_F(LoggerAnsichtTest, EinEinfacherDumpZeigtVerteilerUndOptionen) {
     list1->setCurrentRow(1);
     EXPECT_EQ(pool.gewählt(), 1);
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    QFile ruvo(pfad("Ruvo.ser"));
-    ASSERT_TRUE(ruvo.open(QIODevice::ReadOnly));
-    EXPECT_EQ(ruvo.readAll(), "OMNIVAR\r\nS: 002  P: 001\r\n");
+    EXPECT_EQ(test::inhalt(pfad("Ruvo.ser")), "OMNIVAR\r\nS: 002  P: 001\r\n");
 
     fenster->findChild<QCheckBox*>("Option3D1")->setChecked(true);
     EXPECT_EQ(pool.alleVerteiler(), "JA");

@@ -1,3 +1,4 @@
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include "core/Arbeitsdateien.h"
@@ -12,24 +13,12 @@
 #include "store/Variant.h"
 
 #include <QDir>
-#include <QFile>
 
 using namespace vemo;
 
 namespace {
 
 const QDateTime Beginn(QDate(2026, 3, 14), QTime(7, 30, 0));
-
-QByteArray lesen(const QString& pfad) {
-    QFile f(pfad);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
-}
-
-void schreiben(const QString& pfad, const QByteArray& inhalt) {
-    QFile f(pfad);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(inhalt);
-}
 
 // A dump read from a file with the data pool answered as the test says: the start of the series
 // given in the logger dialog, and the data pool's Command5 or Command4.
@@ -199,7 +188,7 @@ TEST_F(DatenpoolTest, InAnderenArtenPrüftDieAuswahlNichtsUndSchreibtNichts) {
 
 TEST_F(DatenpoolTest, EineAnalyseFülltZweiReihen) {
     m_komponente->setPrüfgeräteTypID(100);
-    schreiben(pfad("Ruvo.ser"), lesen(test::quelle("samples/fi-analyse.ser")));
+    test::schreiben(pfad("Ruvo.ser"), test::inhalt(test::quelle("samples/fi-analyse.ser")));
     modul().Selektor() = selektor::Deutsch;
     m_ui.beiDialog = [&](DialogController& d) {
         auto& p = static_cast<Zuordnen&>(d);
@@ -218,12 +207,12 @@ TEST_F(DatenpoolTest, EineAnalyseFülltZweiReihen) {
 // The coded dump of the 0100-Varitron is rewritten before the pre-pass reads it, when asked for; the
 // key texts stand behind the rewriting again.
 TEST_F(DatenpoolTest, DerCodierteDumpWirdVorDemDatenpoolUmgeschrieben) {
-    const QByteArray codiert = lesen(test::quelle("samples/multitester-codiert.ser"));
-    schreiben(pfad("Ruvo.ser"), codiert);
+    const QByteArray codiert = test::inhalt(test::quelle("samples/multitester-codiert.ser"));
+    test::schreiben(pfad("Ruvo.ser"), codiert);
     modul().Selektor() = "Multitester = 0100-Varitron";
     DateiVorbereiten(false);
     EXPECT_EQ(m_ui.texte(), QStringList{"Messdaten Kopf fehlt"}) << "without the flag nothing is rewritten";
-    EXPECT_EQ(lesen(pfad("Ruvo.ser")), codiert);
+    EXPECT_EQ(test::inhalt(pfad("Ruvo.ser")), codiert);
 
     m_ui.meldungen.clear();
     m_speichern = false;
@@ -234,17 +223,18 @@ TEST_F(DatenpoolTest, DerCodierteDumpWirdVorDemDatenpoolUmgeschrieben) {
     DateiVorbereiten(true);
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
     EXPECT_TRUE(m_zuordnung);
-    EXPECT_TRUE(lesen(pfad("Ruvo.SAV")).startsWith("RUVO GmbH 0100 Multi    \r\n"));
+    EXPECT_TRUE(test::inhalt(pfad("Ruvo.SAV")).startsWith("RUVO GmbH 0100 Multi    \r\n"));
     EXPECT_EQ(modul().mulTexte.value(7).left(24), "S: 255    FI-Analyse    ");
 }
 
 TEST_F(DatenpoolTest, EinDumpOhneArtEndetInDerMeldung) {
-    schreiben(pfad("Ruvo.ser"), "RUVO GmbH 0100 Multi\r\n------------------------\r\n4470D    No. 1\r\n\r\n");
+    test::schreiben(pfad("Ruvo.ser"),
+                    "RUVO GmbH 0100 Multi\r\n------------------------\r\n4470D    No. 1\r\n\r\n");
     DateiVorbereiten(false);
     EXPECT_EQ(m_ui.texte(), QStringList{"Messdaten Kopf fehlt"});
     EXPECT_EQ(modul().Abbruchmerker, 1);
     EXPECT_TRUE(m_ui.dialoge.isEmpty());
-    EXPECT_EQ(lesen(pfad("Ruvo.SAV")), lesen(pfad("Ruvo.ser")));
+    EXPECT_EQ(test::inhalt(pfad("Ruvo.SAV")), test::inhalt(pfad("Ruvo.ser")));
 }
 
 // A picture renamed to a dump, read after a logger series, is no dump: it ends in the message, and
@@ -254,7 +244,7 @@ TEST_F(DatenpoolTest, EinBildIstKeinDump) {
     einlesen("corvex-datenlogger.ser");
     m_ui.dialoge.clear();
     m_ui.meldungen.clear();
-    schreiben(pfad("bild.ser"), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x10", 20));
+    test::schreiben(pfad("bild.ser"), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\x10", 20));
     m_komponente->EinlesenAusDateiName(pfad("bild.ser"));
     EXPECT_TRUE(m_ui.dialoge.isEmpty()) << m_ui.dialoge.join(", ").toStdString();
     ASSERT_FALSE(m_ui.meldungen.isEmpty());
@@ -266,14 +256,14 @@ TEST_F(DatenpoolTest, EinBildIstKeinDump) {
 // dump and of the data pool's copy.
 TEST_F(DatenpoolTest, DreiVerteilerSindDreiEinträge) {
     modul().Selektor() = selektor::Kontalex;
-    schreiben(pfad("Verteil.txt"),
-              "\"00000011\",1,1,1,\"Keller\",\"001\",\"001\",\"08:00\",\"17.03.2024\"\r\n"
-              "\"00000012\",1,2,1,\"\",\"002\",\"001\",\"08:05\",\"17.03.2024\"\r\n"
-              "\"00000013\",1,3,1,\"Dach\",\"003\",\"001\",\"08:09\",\"17.03.2024\"\r\n");
+    test::schreiben(pfad("Verteil.txt"),
+                    "\"00000011\",1,1,1,\"Keller\",\"001\",\"001\",\"08:00\",\"17.03.2024\"\r\n"
+                    "\"00000012\",1,2,1,\"\",\"002\",\"001\",\"08:05\",\"17.03.2024\"\r\n"
+                    "\"00000013\",1,3,1,\"Dach\",\"003\",\"001\",\"08:09\",\"17.03.2024\"\r\n");
     const QByteArray bericht = "OMNIVAR\r\n---\r\nKONTALEXX        No. 1\r\n\r\nS: 001  P: 001 \r\n";
-    schreiben(pfad("Ruvo.ser"), bericht);
+    test::schreiben(pfad("Ruvo.ser"), bericht);
     for (const char* nummer : {"00000011", "00000012", "00000013"})
-        schreiben(pfad(QString(nummer) + ".sep"), bericht + "Verteiler " + nummer + "\r\n");
+        test::schreiben(pfad(QString(nummer) + ".sep"), bericht + "Verteiler " + nummer + "\r\n");
     m_speichern = false;
     m_listeWählen = [](Zuordnen& p) {
         EXPECT_EQ(p.gewählt(), 0);
@@ -288,8 +278,8 @@ TEST_F(DatenpoolTest, DreiVerteilerSindDreiEinträge) {
     for (const QString& e : m_liste)
         EXPECT_EQ(e.size(), Zuordnen::NamenBreite + Zuordnen::NummerLänge);
     EXPECT_TRUE(m_liste[2].endsWith("00000013"));
-    EXPECT_TRUE(lesen(pfad("Ruvo.ser")).endsWith("Verteiler 00000013\r\n"));
-    EXPECT_EQ(lesen(pfad("Ruvo.SAV")), lesen(pfad("Ruvo.ser")));
+    EXPECT_TRUE(test::inhalt(pfad("Ruvo.ser")).endsWith("Verteiler 00000013\r\n"));
+    EXPECT_EQ(test::inhalt(pfad("Ruvo.SAV")), test::inhalt(pfad("Ruvo.ser")));
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 

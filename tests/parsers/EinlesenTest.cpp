@@ -1,12 +1,4 @@
-#include "core/Arbeitsdateien.h"
-#include "parsers/EinlesenVonDatei.h"
-#include "platform/Codepage.h"
-#include "platform/Zahlformat.h"
-#include "store/Recordset.h"
-#include "store/Variant.h"
-#include "support/Testumgebung.h"
-
-#include <QFile>
+#include "Einleseumgebung.h"
 
 using namespace vemo;
 
@@ -15,34 +7,22 @@ namespace {
 const QString Titel = "vemotrix professional";
 const QString KopfFehlt = "Messdaten Kopf fehlt";
 
-// Reads dumps as the driver does after a transfer, or after a file was chosen, and shows the read-in
-// rows compactly: "board circuit: Funktion=wert Einheit | ...", one text a block in key order.
-class Einlesen : public test::Testumgebung {
+// The report and table dumps of the Corvex and Multitester instruments.
+class Einlesen : public test::Einleseumgebung {
 protected:
     void SetUp() override {
-        Testumgebung::SetUp();
-        zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
+        Einleseumgebung::SetUp();
         modul().Selektor() = "Multitester = Deutsch";
-    }
-    void TearDown() override {
-        zahlformat::ausUmgebung();
-        Testumgebung::TearDown();
     }
 
     void probeLesen(const QString& probe, const QString& dateiname = {}) {
-        QFile::remove(arbeitsdatei(datei::Ruvo));
-        ASSERT_TRUE(QFile::copy(test::quelle("samples/" + probe), arbeitsdatei(datei::Ruvo)));
+        probeAblegen(datei::Ruvo, probe);
         starten(dateiname);
     }
-
     void textLesen(const QStringList& zeilen, const QString& dateiname = {}) {
-        QFile f(arbeitsdatei(datei::Ruvo));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(nachAnsi(zeilen.join("\r\n") + "\r\n"));
-        f.close();
+        zeilenAblegen(datei::Ruvo, zeilen);
         starten(dateiname);
     }
-
     void starten(const QString& dateiname) {
         modul().dateinameGewählt = dateiname;
         if (!dateiname.isEmpty())
@@ -54,21 +34,6 @@ protected:
         EXPECT_EQ(m_ui.sanduhrTiefe, 0);
     }
 
-    QStringList blöcke() const {
-        QStringList ergebnis;
-        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
-        for (; !b.Eof(); b.MoveNext()) {
-            QStringList werte;
-            Recordset w =
-                db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = ? ORDER BY rowid",
-                                   {b.Field("MessungID")});
-            for (; !w.Eof(); w.MoveNext())
-                werte << (w.Text("Funktion") + "=" + w.Text("wert") + " " + w.Text("Einheit")).trimmed();
-            ergebnis << b.Text("VerteilerNr") + " " + b.Text("StromkreisNr") + ": " + werte.join(" | ");
-        }
-        return ergebnis;
-    }
-
     // PrüfgerätID of the read-ins, newest first.
     QStringList prüfgeräte() const {
         QStringList ids;
@@ -77,13 +42,11 @@ protected:
             ids << text(r.Field("PrüfgerätID"));
         return ids;
     }
-
     long geschrieben() const {
         return anzahl("0100_EinleseGeräteDaten") + anzahl("0100_EinleseDaten") +
                anzahl("0100_EinleseMessDaten") + anzahl("Prüfgerät");
     }
-
-    QStringList corvexKopf(const QString& geräteZeile) const {
+    static QStringList corvexKopf(const QString& geräteZeile) {
         return {"RUVO GmbH 0100 Multi    ", "------------------------", geräteZeile,
                 " _______________________", ""};
     }

@@ -1,44 +1,27 @@
-#include "core/Arbeitsdateien.h"
-#include "core/Satzdatei.h"
-#include "parsers/EinlesenVonDatei.h"
-#include "platform/Zahlformat.h"
-#include "store/Recordset.h"
-#include "store/Variant.h"
-#include "support/Testumgebung.h"
-#include "takeover/MesswertUebernehmen.h"
+#include "Einleseumgebung.h"
 
-#include <QFile>
+#include "core/Satzdatei.h"
+#include "takeover/MesswertUebernehmen.h"
 
 using namespace vemo;
 
 namespace {
 
-// Reads record files of the command-protocol instruments as the driver does after a transfer or a
-// file copy, and shows the read-in rows compactly: "plant board circuit time date: Funktion=wert
-// Einheit | ...", one text a block in key order.
-class KontalexEinlesen : public test::Testumgebung {
+// The record files of the command-protocol instruments, shown with plant, board, circuit, time and
+// date of each block.
+class KontalexEinlesen : public test::Einleseumgebung {
 protected:
     void SetUp() override {
-        Testumgebung::SetUp();
-        zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
+        Einleseumgebung::SetUp();
         modul().Selektor() = "Multitester = Kontalex";
-    }
-    void TearDown() override {
-        zahlformat::ausUmgebung();
-        Testumgebung::TearDown();
     }
 
     void probeLesen(const QString& probe, const QString& dateiname = {}) {
-        QFile::remove(arbeitsdatei(datei::Rs232Txt));
-        ASSERT_TRUE(QFile::copy(test::quelle("samples/" + probe), arbeitsdatei(datei::Rs232Txt)));
+        probeAblegen(datei::Rs232Txt, probe);
         starten(dateiname);
     }
     void satzdateiLesen(const QList<QByteArray>& zeilen, const QString& dateiname = {}) {
-        QFile f(arbeitsdatei(datei::Rs232Txt));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        for (const QByteArray& z : zeilen)
-            f.write(z);
-        f.close();
+        test::schreiben(arbeitsdatei(datei::Rs232Txt), zeilen.join());
         starten(dateiname);
     }
     void starten(const QString& dateiname) {
@@ -49,22 +32,8 @@ protected:
         m_ui.meldungen.clear();
         EinlesenVonDatei();
     }
-
     QStringList blöcke() const {
-        QStringList ergebnis;
-        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
-        for (; !b.Eof(); b.MoveNext()) {
-            QStringList werte;
-            Recordset w = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
-                                             b.Text("MessungID") + " ORDER BY rowid");
-            for (; !w.Eof(); w.MoveNext())
-                werte << (w.Text("Funktion") + "=" + w.Text("wert") + " " + w.Text("Einheit")).trimmed();
-            ergebnis << QStringList{b.Text("AnlageNr"), b.Text("VerteilerNr"), b.Text("StromkreisNr"),
-                                    b.Text("Uhrzeit"), b.Text("Datum")}
-                                .join(' ') +
-                            ": " + werte.join(" | ");
-        }
-        return ergebnis;
+        return Einleseumgebung::blöcke({"AnlageNr", "VerteilerNr", "StromkreisNr", "Uhrzeit", "Datum"});
     }
 
     static QByteArray marke(const QString& m) { return satzzeile({m, 1, 1, 1, 1, 1, 1, 1}); }

@@ -1,5 +1,5 @@
+#include "Einleseumgebung.h"
 #include "support/SorelinBild.h"
-#include "support/Testumgebung.h"
 
 #include "core/Arbeitsdateien.h"
 #include "core/Geraetetypen.h"
@@ -8,8 +8,6 @@
 #include "parsers/SorelinTreiber.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
-
-#include <QFile>
 
 namespace vemo::test {
 namespace {
@@ -32,38 +30,23 @@ const QByteArray Kreis2 = QByteArray::fromHex("F0"
                                               "813FFF"
                                               "82FFFF");
 
-class SorelinTest : public Testumgebung {
+class SorelinTest : public Einleseumgebung {
 protected:
     void SetUp() override {
-        Testumgebung::SetUp();
+        Einleseumgebung::SetUp();
+        zahlformat::ausUmgebung(); // the number format of the environment, as the host starts
         modul().Selektor() = selektor::Sorelin;
     }
 
     // Reads the image as the driver does after a transfer.
     void lesen(const QByteArray& bild) {
-        QFile f(arbeitsdatei(datei::Rs232Sep));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(bild);
-        f.close();
+        schreiben(arbeitsdatei(datei::Rs232Sep), bild);
         modul().Abbruchmerker = 0;
         m_ui.meldungen.clear();
         EinlesenVonDatei();
     }
-
-    // Each read-in row as "circuit: Funktion=wert Einheit | ...", in key order.
-    QStringList gelesen() const {
-        QStringList kreise;
-        Recordset d = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
-        for (; !d.Eof(); d.MoveNext()) {
-            QStringList werte;
-            Recordset m = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
-                                             d.Text("MessungID"));
-            for (; !m.Eof(); m.MoveNext())
-                werte << (m.Text("Funktion") + "=" + m.Text("wert") + " " + m.Text("Einheit")).trimmed();
-            kreise << d.Text("VerteilerNr") + "/" + d.Text("StromkreisNr") + ": " + werte.join(" | ");
-        }
-        return kreise;
-    }
+    // Each read-in row as "board/circuit: Funktion=wert Einheit | ...".
+    QStringList gelesen() const { return blöcke({"VerteilerNr", "StromkreisNr"}, "/"); }
 };
 
 TEST_F(SorelinTest, EinBildWirdNachDerTreibertabelleGelesen) {

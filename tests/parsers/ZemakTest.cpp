@@ -1,13 +1,6 @@
-#include "core/Arbeitsdateien.h"
-#include "core/Geraetetypen.h"
-#include "parsers/EinlesenVonDatei.h"
-#include "platform/Codepage.h"
-#include "platform/Zahlformat.h"
-#include "store/Recordset.h"
-#include "store/Variant.h"
-#include "support/Testumgebung.h"
+#include "Einleseumgebung.h"
 
-#include <QFile>
+#include "core/Geraetetypen.h"
 
 using namespace vemo;
 
@@ -16,29 +9,15 @@ namespace {
 const QString Standardtitel = "vemo0100Modul15";
 
 // The 37xx working files: the samples, and files written line by line around a few records.
-class Zemak : public test::Testumgebung {
+class Zemak : public test::Einleseumgebung {
 protected:
-    void SetUp() override {
-        Testumgebung::SetUp();
-        zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
-    }
-    void TearDown() override {
-        zahlformat::ausUmgebung();
-        Testumgebung::TearDown();
-    }
-
     // A file read is the default: no instrument joins the register.
     void probeLesen(const QString& s, const QString& probe, const QString& dateiname = "/tmp/x.ser") {
-        QFile::remove(arbeitsdatei(datei::Ruvo));
-        ASSERT_TRUE(QFile::copy(test::quelle("samples/" + probe), arbeitsdatei(datei::Ruvo)));
+        probeAblegen(datei::Ruvo, probe);
         starten(s, dateiname);
     }
-
     void textLesen(const QString& s, const QStringList& zeilen) {
-        QFile f(arbeitsdatei(datei::Ruvo));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(nachAnsi(zeilen.join("\r\n") + "\r\n"));
-        f.close();
+        zeilenAblegen(datei::Ruvo, zeilen);
         starten(s, "/tmp/x.ser");
     }
 
@@ -58,25 +37,6 @@ protected:
         EXPECT_EQ(modul().Abbruchmerker, 0); // the caller goes on, whatever the parser met
     }
 
-    static QString spalte(const Recordset& r, const QString& name) {
-        return istNull(r.Field(name)) ? "∅" : r.Text(name);
-    }
-
-    // "board circuit: Funktion=wert Einheit | ...", a block a text; an unset column shows "∅".
-    QStringList blöcke() const {
-        QStringList ergebnis;
-        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
-        for (; !b.Eof(); b.MoveNext()) {
-            QStringList werte;
-            Recordset w = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
-                                             b.Text("MessungID") + " ORDER BY rowid");
-            for (; !w.Eof(); w.MoveNext())
-                werte << (spalte(w, "Funktion") + "=" + spalte(w, "wert") + " " + spalte(w, "Einheit"))
-                             .trimmed();
-            ergebnis << b.Text("VerteilerNr") + " " + b.Text("StromkreisNr") + ": " + werte.join(" | ");
-        }
-        return ergebnis;
-    }
     // "customer/plant board circuit date time" of each block.
     QStringList orte() const {
         QStringList ergebnis;
@@ -94,112 +54,119 @@ protected:
     static inline const QString Z3720 = "ZEMAK 3720B,1.04,3720315";
 };
 
-TEST_F(Zemak, The3710GivesOneRowPerRecordAndItsValuesByFunctionCode) {
-    probeLesen(selektor::Zemak, "zemak-3710.ser");
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(
-        blöcke(),
-        QStringList({
-            "0001 0001: Spannung Uac=230 V | Spannung f=50,0 Hz",
-            "0001 0002: R ISO, M, R=245 Mohm | R ISO, M, U=530 V | R ISO, E, Un=500 V",
-            "0001 0002: LOW Ohm=0,12 Ohm",
-            "0001 0003: Z LOOP, M, Z=0,35 Ohm | Z LOOP, M, Isc=657 A",
-            "0001 0003: Z LINE, M, Z=0,28 Ohm | Z LINE, M, Isc=0,82 KA",
-            "0001 0004: Z LOOP, M, Z=0,45 Ohm | R LOOP N-PE, M, R=0,40 Ohm",
-            "0002 0001: RCD t, M, t=18 ms | RCD t, M, Ub=3,5 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=30 mA | "
-            "RCD t, E, mult.:=x1 | RCD t, E, phase:= 0° | RCD t, E, type := AC",
-            "0002 0001: RCD I, M, Id=24 mA | RCD t, M, Ub=2,9 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=30 mA | "
-            "RCD t, E, phase:= 180° | RCD t, E, type := AC S",
-            "0002 0005: Re=12,5 Ohm",
-            "0002 0006: Phase=123",
-        }));
-    EXPECT_EQ(orte().value(0), "/ 0001 0001 14.03.2024 09:30:00");
-    EXPECT_EQ(orte().value(9), "/ 0002 0006 14.03.2024 09:52:45");
-    EXPECT_EQ(gerät(), "ZEMAK 3710|1.03|3710042|0");
+// Each model's sample: the rows by record and function code, the place and moment of a record, and
+// the instrument; a file read leaves the register as it was.
+TEST_F(Zemak, EachModelsSampleGivesOneRowPerRecordAndItsValuesByFunctionCode) {
+    const struct {
+        QString selektor, probe;
+        QStringList blöcke;
+        int ortZeile;
+        QString ort, gerät;
+    } proben[] = {
+        {selektor::Zemak,
+         "zemak-3710.ser",
+         {
+             "0001 0001: Spannung Uac=230 V | Spannung f=50,0 Hz",
+             "0001 0002: R ISO, M, R=245 Mohm | R ISO, M, U=530 V | R ISO, E, Un=500 V",
+             "0001 0002: LOW Ohm=0,12 Ohm",
+             "0001 0003: Z LOOP, M, Z=0,35 Ohm | Z LOOP, M, Isc=657 A",
+             "0001 0003: Z LINE, M, Z=0,28 Ohm | Z LINE, M, Isc=0,82 KA",
+             "0001 0004: Z LOOP, M, Z=0,45 Ohm | R LOOP N-PE, M, R=0,40 Ohm",
+             "0002 0001: RCD t, M, t=18 ms | RCD t, M, Ub=3,5 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=30 mA | "
+             "RCD t, E, mult.:=x1 | RCD t, E, phase:= 0° | RCD t, E, type := AC",
+             "0002 0001: RCD I, M, Id=24 mA | RCD t, M, Ub=2,9 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=30 mA "
+             "| "
+             "RCD t, E, phase:= 180° | RCD t, E, type := AC S",
+             "0002 0005: Re=12,5 Ohm",
+             "0002 0006: Phase=123",
+         },
+         0,
+         "/ 0001 0001 14.03.2024 09:30:00",
+         "ZEMAK 3710|1.03|3710042|0"},
+        {selektor::Zemak3710B,
+         "zemak-3710b.ser",
+         {
+             "0001 0001: Spannung Uac=230 V | m_Bemerkung=Uac:L-PE | Spannung f=50,0 Hz",
+             "0001 0002: R ISO, M, R=>200,0 Mohm | R ISO, M, U=260 V | R ISO, E, Un=250 V",
+             "0001 0002: LOW Ohm=0,19 Ohm",
+             "0001 0003: Z LOOP, M, Z=0,41 Ohm | Z LOOP, M, Isc=561 A",
+             "0001 0003: Z LINE, M, Z=0,22 Ohm | Z LINE, M, Isc=1,01 KA",
+             "0002 0001: RCD t, M, t=9 ms | RCD t, M, Ub=1,7 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=150 mA | "
+             "RCD t, E, mult.:=x5 | RCD t, E, phase:= 0° | RCD t, E, type := PL",
+             "0002 0002: RCD I, M, Id=80 mA | RCD t, M, Ub=1,2 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=100 mA "
+             "| "
+             "RCD t, E, phase:= 180° | RCD t, E, type := PL S",
+             "0002 0007: Re=39,0 Ohm",
+             "0002 0008: Phase=321",
+         },
+         5,
+         "/ 0002 0001 06.05.2024 14:10:00",
+         "ZEMAK 3710B|2.10|3711877|0"},
+        {selektor::Zemak3720,
+         "zemak-3720.ser",
+         {
+             "1202 0101: Spannung Uac=231 V | m_Bemerkung=Uac:N-PE | Spannung f=50,0 Hz",
+             "1202 0102: m_KTS_INSUPE=>200 Mohm | R ISO, M, U=1010 V | R ISO, E, Un=1000 V",
+             "1202 0103: m_KTS_INSUPP=50,0 Mohm | R ISO, M, U=275 V | R ISO, E, Un=250 V",
+             "1202 0104: m_KTS_CONTN=0,30 Ohm",
+             "1202 0105: Z LOOP, M, Z=0,48 Ohm | R LOOP N-PE, M, R=0,42 Ohm",
+             "1202 0106: Z LOOP, M, Z=0,345 Ohm | Z LOOP, M, Isc=666 A",
+             "1202 0201: RCD t, M, t=17 ms | RCD t, M, Ub=2,5 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=100 mA "
+             "| "
+             "RCD t, E, mult.:=x5 | RCD t, E, phase:= 180° | RCD t, E, type := PL S",
+             "1202 0202: RCD I, M, Id=130 mA | RCD t, M, Ub=0,7 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=150 "
+             "mA "
+             "| "
+             "RCD t, E, phase:= 0° | RCD t, E, type := B",
+             "1202 0209: Re=10,00 Ohm",
+             "1202 0210: Phase=123",
+         },
+         0,
+         "/??? 1202 0101 02.09.2024 08:15:00",
+         "ZEMAK 3720B|1.04|3720315|0"},
+        {selektor::Zemak3740,
+         "zemak-3740.ser",
+         {
+             "1202 0101: Spannung Uac=229 V | m_Bemerkung=Uac:L-PE | Spannung f=50,0 Hz",
+             "1202 0102: m_KTS_INSUPN=40,0 Mohm | R ISO, M, U=55 V | R ISO, E, Un=50 V",
+             "1202 0103: =0,17 Ohm",
+             "1202 0104: Z LOOP, M, Z=0,38 Ohm | Z LOOP, M, Isc=605 A",
+             "1202 0105: Z LOOP, M, Z=0,370 Ohm | Z LOOP, M, Isc=601 A",
+             "1202 0201: RCD I, M, Id=8 mA | RCD t, M, Ub=0,4 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=10 mA | "
+             "RCD t, E, phase:= 0° | RCD t, E, type := AC",
+             "1202 0207: Re=21,0 Ohm",
+             "1202 0208: Phase=321",
+         },
+         7,
+         "/0002 1202 0208 30.06.2025 08:06:00",
+         "ZEMAK 3740B|3.02|3740226|0"},
+        {selektor::Quentavoir,
+         "quentavoir.ser",
+         {
+             "3401 0101: Spannung Uac=229 V | m_Bemerkung=Uac:L-N | Spannung f=49,9 Hz",
+             "3401 0102: m_KTS_INSUNE=55 Mohm | R ISO, M, U=61 V | R ISO, E, Un=50 V",
+             "3401 0103: m_KTS_CONT+=0,21 Ohm",
+             "3401 0104: Z LINE, M, Z=0,450 Ohm | Z LINE, M, Isc=6,6 KA",
+             "3401 0105: RCD t, M, t=290 ms | RCD t, M, Ub=4,6 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=10 mA "
+             "| "
+             "RCD t, E, mult.:=x1/2 | RCD t, E, phase:= 0° | RCD t, E, type := AC",
+         },
+         0,
+         "",
+         "HELVARD Quentavoir|1.20|Q9015|0"},
+    };
+    for (const auto& p : proben) {
+        SCOPED_TRACE(p.probe.toStdString());
+        sql("DELETE FROM [0100_EinleseDaten]");
+        probeLesen(p.selektor, p.probe);
+        EXPECT_EQ(m_ui.texte(), QStringList());
+        EXPECT_EQ(blöcke(), p.blöcke);
+        if (!p.ort.isEmpty()) {
+            EXPECT_EQ(orte().value(p.ortZeile), p.ort);
+        }
+        EXPECT_EQ(gerät(), p.gerät);
+    }
     EXPECT_EQ(anzahl("Prüfgerät"), 0); // read from a file: the register stays as it was
-}
-
-TEST_F(Zemak, The3710BNamesItsConductorsAndStoresOddCurrentsAsNumbers) {
-    probeLesen(selektor::Zemak3710B, "zemak-3710b.ser");
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(
-        blöcke(),
-        QStringList({
-            "0001 0001: Spannung Uac=230 V | m_Bemerkung=Uac:L-PE | Spannung f=50,0 Hz",
-            "0001 0002: R ISO, M, R=>200,0 Mohm | R ISO, M, U=260 V | R ISO, E, Un=250 V",
-            "0001 0002: LOW Ohm=0,19 Ohm",
-            "0001 0003: Z LOOP, M, Z=0,41 Ohm | Z LOOP, M, Isc=561 A",
-            "0001 0003: Z LINE, M, Z=0,22 Ohm | Z LINE, M, Isc=1,01 KA",
-            "0002 0001: RCD t, M, t=9 ms | RCD t, M, Ub=1,7 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=150 mA | "
-            "RCD t, E, mult.:=x5 | RCD t, E, phase:= 0° | RCD t, E, type := PL",
-            "0002 0002: RCD I, M, Id=80 mA | RCD t, M, Ub=1,2 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=100 mA "
-            "| "
-            "RCD t, E, phase:= 180° | RCD t, E, type := PL S",
-            "0002 0007: Re=39,0 Ohm",
-            "0002 0008: Phase=321",
-        }));
-    EXPECT_EQ(orte().value(5), "/ 0002 0001 06.05.2024 14:10:00");
-    EXPECT_EQ(gerät(), "ZEMAK 3710B|2.10|3711877|0");
-}
-
-TEST_F(Zemak, The3720ReadsEveryTestFromTheWholeModeWord) {
-    probeLesen(selektor::Zemak3720, "zemak-3720.ser");
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(
-        blöcke(),
-        QStringList({
-            "1202 0101: Spannung Uac=231 V | m_Bemerkung=Uac:N-PE | Spannung f=50,0 Hz",
-            "1202 0102: m_KTS_INSUPE=>200 Mohm | R ISO, M, U=1010 V | R ISO, E, Un=1000 V",
-            "1202 0103: m_KTS_INSUPP=50,0 Mohm | R ISO, M, U=275 V | R ISO, E, Un=250 V",
-            "1202 0104: m_KTS_CONTN=0,30 Ohm",
-            "1202 0105: Z LOOP, M, Z=0,48 Ohm | R LOOP N-PE, M, R=0,42 Ohm",
-            "1202 0106: Z LOOP, M, Z=0,345 Ohm | Z LOOP, M, Isc=666 A",
-            "1202 0201: RCD t, M, t=17 ms | RCD t, M, Ub=2,5 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=100 mA | "
-            "RCD t, E, mult.:=x5 | RCD t, E, phase:= 180° | RCD t, E, type := PL S",
-            "1202 0202: RCD I, M, Id=130 mA | RCD t, M, Ub=0,7 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=150 mA "
-            "| "
-            "RCD t, E, phase:= 0° | RCD t, E, type := B",
-            "1202 0209: Re=10,00 Ohm",
-            "1202 0210: Phase=123",
-        }));
-    EXPECT_EQ(orte().value(0), "/??? 1202 0101 02.09.2024 08:15:00");
-    EXPECT_EQ(gerät(), "ZEMAK 3720B|1.04|3720315|0");
-}
-
-TEST_F(Zemak, The3740KeepsPlantAndFunctionInFieldsOfTheirOwn) {
-    probeLesen(selektor::Zemak3740, "zemak-3740.ser");
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(
-        blöcke(),
-        QStringList({
-            "1202 0101: Spannung Uac=229 V | m_Bemerkung=Uac:L-PE | Spannung f=50,0 Hz",
-            "1202 0102: m_KTS_INSUPN=40,0 Mohm | R ISO, M, U=55 V | R ISO, E, Un=50 V",
-            "1202 0103: =0,17 Ohm",
-            "1202 0104: Z LOOP, M, Z=0,38 Ohm | Z LOOP, M, Isc=605 A",
-            "1202 0105: Z LOOP, M, Z=0,370 Ohm | Z LOOP, M, Isc=601 A",
-            "1202 0201: RCD I, M, Id=8 mA | RCD t, M, Ub=0,4 V | RCD t, G, Ub=<50 V | RCD t, E, Idn=10 mA | "
-            "RCD t, E, phase:= 0° | RCD t, E, type := AC",
-            "1202 0207: Re=21,0 Ohm",
-            "1202 0208: Phase=321",
-        }));
-    EXPECT_EQ(orte().value(7), "/0002 1202 0208 30.06.2025 08:06:00");
-    EXPECT_EQ(gerät(), "ZEMAK 3740B|3.02|3740226|0");
-}
-
-TEST_F(Zemak, TheQuentavoirIsA3720UnderItsMakersName) {
-    probeLesen(selektor::Quentavoir, "quentavoir.ser");
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(
-        blöcke(),
-        QStringList({
-            "3401 0101: Spannung Uac=229 V | m_Bemerkung=Uac:L-N | Spannung f=49,9 Hz",
-            "3401 0102: m_KTS_INSUNE=55 Mohm | R ISO, M, U=61 V | R ISO, E, Un=50 V",
-            "3401 0103: m_KTS_CONT+=0,21 Ohm",
-            "3401 0104: Z LINE, M, Z=0,450 Ohm | Z LINE, M, Isc=6,6 KA",
-            "3401 0105: RCD t, M, t=290 ms | RCD t, M, Ub=4,6 V | RCD t, G, Ub=<25 V | RCD t, E, Idn=10 mA | "
-            "RCD t, E, mult.:=x1/2 | RCD t, E, phase:= 0° | RCD t, E, type := AC",
-        }));
-    EXPECT_EQ(gerät(), "HELVARD Quentavoir|1.20|Q9015|0");
     // A 3720 file is no Quentavoir's: its identification line is never found.
     probeLesen(selektor::Quentavoir, "zemak-3720.ser");
     EXPECT_EQ(m_ui.texte(), QStringList{"62 Einlesen hinter Dateiende"});

@@ -2,6 +2,7 @@
 // clear message, and no crash, neither in the host's component nor on the command line.
 #include "host/Modul15a.h"
 #include "store/Schema.h"
+#include "support/Dateien.h"
 #include "support/Testumgebung.h"
 
 #include <QFile>
@@ -47,11 +48,7 @@ protected:
         QFile::setPermissions(pfad("schreibgeschuetzt.db"),
                               QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther);
     }
-    void datei(const QString& name, const QByteArray& inhalt) const {
-        QFile f(pfad(name));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(inhalt);
-    }
+    void datei(const QString& name, const QByteArray& bytes) const { test::schreiben(pfad(name), bytes); }
 
     struct Fall {
         const char* datei;

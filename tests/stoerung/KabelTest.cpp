@@ -3,12 +3,13 @@
 // waits, Ctrl-C (the abort button) ends it at once, and the working files are what the family
 // leaves after an abort.
 #include "CorvexSpeicher.h"
-#include "links/LinkHilfen.h"
+#include "support/Dateien.h"
+#include "support/Kommandozeile.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <csignal>
 #include <ostream>
@@ -117,15 +118,11 @@ const Phase Phasen[] = {
      0,
      "Rs232.sep",
      Datei::Unberührt},
-    suche(103),
-    sammeln(103),
+    // The 37xx models share one dialog: a plain search, the Quentavoir's search under its maker's
+    // name, and the collection of a fixed and of a long count.
     suche(104),
-    sammeln(104),
-    suche(105),
-    sammeln(105),
     suche(106),
-    sammeln(106),
-    suche(107),
+    sammeln(103),
     sammeln(107),
 };
 
@@ -134,21 +131,8 @@ protected:
     void SetUp() override {
         Testumgebung::SetUp();
         QDir(m_dir.path()).mkpath("cli");
-        QProcess init;
-        init.start(programm(), {"init-db", pfad("cli/vemotrix.db")});
-        ASSERT_TRUE(init.waitForFinished(20000));
-        ASSERT_EQ(init.exitCode(), 0) << init.readAllStandardError().toStdString();
-    }
-    static QString programm() { return QString(VEMO_BIN_DIR) + "/vemo0100"; }
-
-    QByteArray lesen(const QString& name) const {
-        QFile f(pfad("cli/" + name));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(keine Datei)");
-    }
-    void vorbelegen(const QString& name) const {
-        QFile f(pfad("cli/" + name));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(LetzterLauf);
+        const test::Lauf init = test::vemo0100({"init-db", pfad("cli/vemotrix.db")});
+        ASSERT_EQ(init.status, 0) << init.fehler.toStdString();
     }
 
     // The console's lines until one contains the text, or the run ends, or 20 s pass.
@@ -165,13 +149,14 @@ protected:
 
 TEST_P(KabelTest, DieLeitungWartetUndDerAbbruchBeendetSie) {
     const Phase& phase = GetParam();
-    vorbelegen(phase.arbeitsdatei);
+    test::schreiben(pfad("cli/" + phase.arbeitsdatei), LetzterLauf);
     test::Simulator sim(phase.simulator + QStringList{"--link", pfad("port")});
     ASSERT_FALSE(sim.gerät().isEmpty()) << sim.prozess().readAllStandardError().toStdString();
 
     QProcess p;
-    p.start(programm(), {"--db", pfad("cli/vemotrix.db"), "--settings", pfad("cli/settings.ini"), "--port",
-                         pfad("port"), "--type", QString::number(phase.typ), "receive"});
+    p.start(test::vemo0100Programm(),
+            {"--db", pfad("cli/vemotrix.db"), "--settings", pfad("cli/settings.ini"), "--port", pfad("port"),
+             "--type", QString::number(phase.typ), "receive"});
     ASSERT_TRUE(p.waitForStarted(5000));
     QString ausgabe = bisZurZeile(p, phase.tasteDrücken ? QString("Serielle Datenübertragung") : phase.bis);
     if (phase.tasteDrücken) {
@@ -196,7 +181,7 @@ TEST_P(KabelTest, DieLeitungWartetUndDerAbbruchBeendetSie) {
 
     EXPECT_EQ(p.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(p.exitCode(), 1) << ausgabe.toStdString();
-    const QByteArray datei = lesen(phase.arbeitsdatei);
+    const QByteArray datei = test::inhalt(pfad("cli/" + phase.arbeitsdatei));
     switch (phase.datei) {
     case Datei::Unberührt:
         EXPECT_EQ(datei, LetzterLauf);

@@ -18,6 +18,7 @@ void Testumgebung::SetUp() {
 }
 
 void Testumgebung::TearDown() {
+    EXPECT_FALSE(m_wachhund) << "the dialog did not end by itself";
     modulNeuLaden();
     modul().ui = nullptr;
     modul().settings = nullptr;

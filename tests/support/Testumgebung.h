@@ -5,8 +5,10 @@
 #include "platform/SettingsStore.h"
 #include "store/Datenbank.h"
 
+#include <QPointer>
 #include <QString>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace vemo::test {
@@ -29,10 +31,20 @@ protected:
     long anzahl(const QString& tabelle) const;
     QString pfad(const QString& name) const { return m_dir.filePath(name); }
 
+    // Aborts a dialog still open when its time is up: the test fails instead of hanging.
+    template <class Dialog> void bewachen(Dialog& dialog, int frist = 5000) {
+        QTimer::singleShot(frist, &dialog, [this, d = QPointer<Dialog>(&dialog)] {
+            m_wachhund = true;
+            if (d)
+                d->abbrechen();
+        });
+    }
+
     QTemporaryDir m_dir;
     AufzeichnungsUi m_ui;
     SpeicherSettingsStore m_settings;
     QString m_dbPfad;
+    bool m_wachhund = false;
 };
 
 // A file of the source tree (samples, data).
