@@ -157,7 +157,7 @@ void Speicherleser::werteSchreiben(const Datensatz& satz, qint32 messungID) {
     const auto zeilen = anweisung([&] { return messzeilen(m_v, satz); });
     if (!zeilen)
         return;
-    for (const Messzeile& z : *zeilen) {
+    for (const Zemakmesszeile& z : *zeilen) {
         const QVariant funktion = spalte(z.funktion);
         const QVariant wert = spalte(z.wert);
         const QVariant einheit = spalte(z.einheit);

@@ -12,14 +12,14 @@ class Zeilen {
 public:
     Zeilen(const Variante& variante, const Datensatz& satz) : m_v(variante), m_s(satz) {}
 
-    std::vector<Messzeile> von(Messart art) const;
+    std::vector<Zemakmesszeile> von(Messart art) const;
 
 private:
-    std::vector<Messzeile> spannung() const;
-    std::vector<Messzeile> isolation() const;
-    std::vector<Messzeile> durchgang() const;
-    std::vector<Messzeile> schleife(bool zweiteForm) const;
-    std::vector<Messzeile> rcd(bool auslösezeit) const;
+    std::vector<Zemakmesszeile> spannung() const;
+    std::vector<Zemakmesszeile> isolation() const;
+    std::vector<Zemakmesszeile> durchgang() const;
+    std::vector<Zemakmesszeile> schleife(bool zweiteForm) const;
+    std::vector<Zemakmesszeile> rcd(bool auslösezeit) const;
 
     Spaltenwert wahl(const Wahl<QString>& w) const {
         return [&w, &s = m_s] { return wählen(w, s); };
@@ -35,7 +35,7 @@ private:
     const Datensatz& m_s;
 };
 
-std::vector<Messzeile> Zeilen::von(Messart art) const {
+std::vector<Zemakmesszeile> Zeilen::von(Messart art) const {
     switch (art) {
     case Messart::Spannung:
         return spannung();
@@ -59,26 +59,26 @@ std::vector<Messzeile> Zeilen::von(Messart art) const {
     return {};
 }
 
-std::vector<Messzeile> Zeilen::spannung() const {
-    std::vector<Messzeile> z{{fest("Spannung Uac"), wert(m_v.a), fest("V")}};
+std::vector<Zemakmesszeile> Zeilen::spannung() const {
+    std::vector<Zemakmesszeile> z{{fest("Spannung Uac"), wert(m_v.a), fest("V")}};
     if (m_v.leiter)
         z.push_back({fest("m_Bemerkung"), wahl(*m_v.leiter), fest("")});
     z.push_back({fest("Spannung f"), wert(m_v.b), fest("Hz")});
     return z;
 }
 
-std::vector<Messzeile> Zeilen::isolation() const {
+std::vector<Zemakmesszeile> Zeilen::isolation() const {
     return {{wahl(m_v.isolation), wert(m_v.a), fest("Mohm")},
             {fest("R ISO, M, U"), wert(m_v.b), fest("V")},
             {fest("R ISO, E, Un"), wahl(m_v.prüfspannung), fest("V")}};
 }
 
-std::vector<Messzeile> Zeilen::durchgang() const {
+std::vector<Zemakmesszeile> Zeilen::durchgang() const {
     return {{wahl(m_v.durchgang), wert(m_v.a), fest("Ohm")}};
 }
 
 // The second form reads its impedance in milliohm where the model says so, and has no N-PE row.
-std::vector<Messzeile> Zeilen::schleife(bool zweiteForm) const {
+std::vector<Zemakmesszeile> Zeilen::schleife(bool zweiteForm) const {
     const auto kreis = wählen(m_v.kreis, m_s);
     if (!kreis)
         return {};
@@ -86,7 +86,7 @@ std::vector<Messzeile> Zeilen::schleife(bool zweiteForm) const {
     if (*kreis == Kreis::Leitung)
         return {{fest("Z LINE, M, Z"), wert(m_v.a, milli), fest("Ohm")},
                 {fest("Z LINE, M, Isc"), wert(m_v.b), wahl(m_v.stromeinheit)}};
-    std::vector<Messzeile> z{{fest("Z LOOP, M, Z"), wert(m_v.a, milli), fest("Ohm")}};
+    std::vector<Zemakmesszeile> z{{fest("Z LOOP, M, Z"), wert(m_v.a, milli), fest("Ohm")}};
     const auto dahinter =
         zweiteForm ? std::optional(Schleifenwert::Kurzschlussstrom) : wählen(m_v.schleifenwert, m_s);
     if (dahinter == Schleifenwert::RNpe)
@@ -99,8 +99,8 @@ std::vector<Messzeile> Zeilen::schleife(bool zweiteForm) const {
 
 // Type and phase stand in the unit column with an empty value: that is where the take-over
 // reads them.
-std::vector<Messzeile> Zeilen::rcd(bool auslösezeit) const {
-    std::vector<Messzeile> z;
+std::vector<Zemakmesszeile> Zeilen::rcd(bool auslösezeit) const {
+    std::vector<Zemakmesszeile> z;
     if (auslösezeit)
         z.push_back({fest("RCD t, M, t"), wert(m_v.a), fest("ms")});
     else
@@ -134,7 +134,7 @@ Spaltenwert Zeilen::nennstrom() const {
 
 } // namespace
 
-std::vector<Messzeile> messzeilen(const Variante& variante, const Datensatz& satz) {
+std::vector<Zemakmesszeile> messzeilen(const Variante& variante, const Datensatz& satz) {
     for (const int feld : variante.modusfelder)
         static_cast<void>(satz.zahl(feld)); // read for its failure only
     const auto art = variante.funktionen.find(variante.funktionscode(satz));

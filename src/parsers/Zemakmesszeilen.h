@@ -13,7 +13,7 @@ namespace vemo {
 // the column unset. Reading a field may fail; that failure belongs to the statement that writes it.
 using Spaltenwert = std::function<std::optional<QString>()>;
 
-struct Messzeile {
+struct Zemakmesszeile {
     Spaltenwert funktion;
     Spaltenwert wert;
     Spaltenwert einheit;
@@ -22,6 +22,6 @@ struct Messzeile {
 // The rows of 0100_EinleseMessDaten that a record gives, in their order: its function code picks
 // the measurement, the model's tables fill the rows in. A code the model does not know gives none.
 // The rows read the record when they are written, so it must outlive them.
-std::vector<Messzeile> messzeilen(const Variante& variante, const Datensatz& satz);
+std::vector<Zemakmesszeile> messzeilen(const Variante& variante, const Datensatz& satz);
 
 } // namespace vemo

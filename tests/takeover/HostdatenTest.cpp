@@ -58,7 +58,7 @@ QSet<QString> namenDesModells(const Variante& v, int felder, int modusfeld, int 
                 satz[modusfeld - 1] = QString::number(code << 10 | bits, 16).rightJustified(4, '0');
             }
             const Datensatz d(satz.join(','), v.umlaufend);
-            for (const Messzeile& z : messzeilen(v, d))
+            for (const Zemakmesszeile& z : messzeilen(v, d))
                 if (const auto name = z.funktion())
                     namen << *name;
         }
