@@ -10,6 +10,8 @@
 namespace vemo {
 
 namespace {
+void wortTabellenAblegen(const QString& pfad);
+
 QString ressource(const QString& name) {
     QFile f(":/data/" + name);
     if (!f.open(QIODevice::ReadOnly))
@@ -25,14 +27,24 @@ void skripteAusführen(const Datenbank& db, const QString& muster) {
 }
 
 void datenbankAnlegen(const QString& pfad, bool demo) {
-    for (const QString& rest : {QString(), QString("-wal"), QString("-shm")})
-        QFile::remove(pfad + rest);
+    const bool server = Datenbank::istServer(pfad);
+    if (!server)
+        for (const QString& rest : {QString(), QString("-wal"), QString("-shm")})
+            QFile::remove(pfad + rest);
     const Datenbank db = Datenbank::anlegen(pfad);
     db.skriptAusführen(ressource("schema.sql"));
     db.skriptAusführen(ressource("abfragen.sql"));
     skripteAusführen(db, "host-*.sql");
     if (demo)
         skripteAusführen(db, "demo-*.sql");
+    if (server) // the office's language table lives in its database
+        skripteAusführen(db, "language-*.sql");
+    else
+        wortTabellenAblegen(pfad);
+}
+
+namespace {
+void wortTabellenAblegen(const QString& pfad) {
     const QDir neben = QFileInfo(pfad).absoluteDir();
     for (const QString& tabelle : {QString("Ruvo.MNU"), QString("Ruvo.MUL")}) {
         QFile::remove(neben.filePath(tabelle));
@@ -42,5 +54,7 @@ void datenbankAnlegen(const QString& pfad, bool demo) {
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
 }
+
+} // namespace
 
 } // namespace vemo

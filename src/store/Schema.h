@@ -6,8 +6,9 @@ namespace vemo {
 
 // Writes a new host database: the schema, the saved queries and the default host data
 // (data/host-*.sql); with demo, customers, plants and instruments to play with (data/demo-*.sql).
-// An existing file is replaced. The word tables \Ruvo.MNU and \Ruvo.MUL of the host's
-// installation are written beside it.
+// An existing file is replaced; a server's database (a connection URI) must be empty, and takes the
+// language table too, as the office's one. Beside a file, the word tables \Ruvo.MNU and \Ruvo.MUL of the
+// host's installation are written beside it.
 void datenbankAnlegen(const QString& pfad, bool demo);
 
 // Runs the scripts of the resources whose names match the pattern, in the order of their names.
