@@ -142,11 +142,83 @@ QStringList auslöserUmsetzen(const QString& s) {
                 m.captured(4) + " for each row execute function " + funktion + "()"};
 }
 
+// Where "order by" of the statement itself starts (outside brackets and quotes); -1 when none.
+qsizetype sortierungBeginn(const QString& s) {
+    static const QRegularExpression wort(R"(\border\s+by\b)");
+    int tiefe = 0;
+    qsizetype gefunden = -1;
+    for (qsizetype i = 0; i < s.size(); ++i) {
+        const QChar c = s[i];
+        if (c == '\'' || c == '"') {
+            QString weg;
+            i = zitatKopieren(s, i, weg, false) - 1;
+        } else if (c == '(') {
+            ++tiefe;
+        } else if (c == ')') {
+            --tiefe;
+        } else if (tiefe == 0 && c == 'o') {
+            if (const auto m = wort.match(s, i, QRegularExpression::NormalMatch,
+                                          QRegularExpression::AnchorAtOffsetMatchOption);
+                m.hasMatch() && (i == 0 || !s[i - 1].isLetterOrNumber()))
+                gefunden = m.capturedEnd();
+        }
+    }
+    return gefunden;
+}
+
+// The host's engine, as SQLite, sorts Null before every value, and after every value in
+// descending order; the server does the opposite unless told.
+QString nullsWieSqlite(const QString& s) {
+    const qsizetype anfang = sortierungBeginn(s);
+    if (anfang < 0)
+        return s;
+    static const QRegularExpression absteigend(R"(\bdesc\s*$)");
+    static const QRegularExpression angegeben(R"(\bnulls\s+(first|last)\s*$)");
+    QString out = s.left(anfang);
+    QString glied;
+    int tiefe = 0;
+    const auto abschließen = [&] {
+        if (!angegeben.match(glied).hasMatch())
+            glied = glied.trimmed() + (absteigend.match(glied).hasMatch() ? " nulls last" : " nulls first");
+        out += " " + glied;
+        glied.clear();
+    };
+    for (qsizetype i = anfang; i < s.size(); ++i) {
+        const QChar c = s[i];
+        if (c == '\'' || c == '"') {
+            i = zitatKopieren(s, i, glied, false) - 1;
+            continue;
+        }
+        if (c == '(')
+            ++tiefe;
+        else if (c == ')')
+            --tiefe;
+        if (c == ',' && tiefe == 0) {
+            abschließen();
+            out += ",";
+            continue;
+        }
+        glied += c;
+    }
+    // What follows the last key (limit, for update) stays behind it.
+    static const QRegularExpression danach(R"(\s(limit|offset|for)\b.*$)",
+                                           QRegularExpression::DotMatchesEverythingOption);
+    const auto rest = danach.match(glied);
+    const QString schluss = rest.hasMatch() ? rest.captured(0) : QString();
+    glied.chop(schluss.size());
+    abschließen();
+    return out + schluss;
+}
+
 } // namespace
 
 QString fürPostgres(const QString& sql) {
     static const QRegularExpression sortierfolge(R"(\s*collate\s+vemo_nocase\b)");
-    return umschreiben(sql).remove(sortierfolge);
+    // The case-blind collation does not match patterns: Like compares without regard to case
+    // under the database's own.
+    static const QRegularExpression muster(R"(\blike(\s+(?:'(?:[^']|'')*'|\$\d+)))");
+    return nullsWieSqlite(
+        umschreiben(sql).remove(sortierfolge).replace(muster, "ilike\\1 collate \"default\""));
 }
 
 QStringList skriptFürPostgres(const QString& skript) {
@@ -184,7 +256,8 @@ create or replace function vbtext(z double precision) returns text language sql 
   $$ select case when z is null then '' when z = trunc(z) and abs(z) < 1e15 then trunc(z)::bigint::text
             else z::text end $$;
 create or replace function val(t text) returns double precision language sql immutable strict as
-  $$ select coalesce(substring(replace(ltrim(t), ' ', '') from '^[+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)')::double precision, 0) $$;
+  $$ select coalesce(substring(replace(ltrim(t collate "default"), ' ', '')
+                             from '^[+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)')::double precision, 0) $$;
 create or replace function mid(t text, von integer) returns text language sql immutable as $$ select substr(t, von) $$;
 create or replace function mid(t text, von integer, anzahl integer) returns text language sql immutable as
   $$ select substr(t, von, anzahl) $$;

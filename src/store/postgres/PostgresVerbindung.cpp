@@ -52,7 +52,7 @@ QString utf8(const char* s) {
         throw Fehler(3000 + SQLITE_ABORT, text);
     if (zustand.startsWith("22"))
         throw fehler::mit(fehler::TypenUnverträglich, text);
-    if (zustand.startsWith("42"))
+    if (zustand.startsWith("42") || zustand == "0A000")
         throw fehler::mit(fehler::SyntaxFehler, text + ": " + sql);
     throw Fehler(3000 + SQLITE_IOERR,
                  text.isEmpty() ? QString("Die Verbindung zum Server ist verloren") : text);
