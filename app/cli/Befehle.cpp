@@ -11,6 +11,7 @@
 #include "language/SprachDatenbank.h"
 #include "logger/Reihenausgabe.h"
 #include "platform/Fehler.h"
+#include "store/Datenbank.h"
 #include "store/Schema.h"
 
 #include <QDir>
@@ -35,6 +36,11 @@ int initDb(const Optionen& o) {
         return 2;
     }
     try {
+        // A server's database takes the language table itself; a file has its own beside it.
+        if (vemo::Datenbank::istServer(pfad)) {
+            vemo::datenbankAnlegen(pfad, o.schalter("--demo"));
+            return 0;
+        }
         QDir().mkpath(QFileInfo(pfad).absolutePath());
         vemo::datenbankAnlegen(pfad, o.schalter("--demo"));
         vemo::spracheDatenbankAnlegen(QFileInfo(pfad).absolutePath());
