@@ -51,6 +51,20 @@ int initDb(const Optionen& o) {
     return 0;
 }
 
+int copyDb(const Optionen& o) {
+    if (o.argumente.size() != 2) {
+        ausgeben("vemo0100: copy-db needs the database to copy and the new one");
+        return 2;
+    }
+    try {
+        vemo::datenbankKopieren(o.argumente.value(0), o.argumente.value(1));
+    } catch (const vemo::Fehler& f) {
+        ausgeben("vemo0100: " + f.meldung());
+        return 1;
+    }
+    return 0;
+}
+
 // Runs a command on the component set up from the global options.
 int mitKomponente(const Optionen& o, const std::function<int(Sitzung&)>& befehl) {
     if (o.db.isEmpty()) {
@@ -228,10 +242,17 @@ int importieren(const Optionen& o) {
 
 int befehlAusführen(const Optionen& o) {
     static const std::map<QString, std::function<int(const Optionen&)>> befehle{
-        {"init-db", initDb},        {"read-file", readFile},         {"grid", grid},
-        {"assign", assign},         {"delete-rows", deleteRows},     {"take-over", takeOver},
-        {"receive", receive},       {"assign-device", assignDevice}, {"import", importieren},
+        {"init-db", initDb},
+        {"read-file", readFile},
+        {"grid", grid},
+        {"assign", assign},
+        {"delete-rows", deleteRows},
+        {"take-over", takeOver},
+        {"receive", receive},
+        {"assign-device", assignDevice},
+        {"import", importieren},
         {"instrument", instrument},
+        {"copy-db", copyDb},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

@@ -141,6 +141,24 @@ bool Datenbank::hatTabelle(const QString& name) const {
     return v().tabelle(ohneKlammern(name)) != nullptr;
 }
 
+QStringList Datenbank::tabellen() const {
+    return v().tabellen();
+}
+
+QString Datenbank::tabellenDefinition(const QString& name) const {
+    const auto t = v().tabelle(ohneKlammern(name));
+    if (!t)
+        throw fehler::mit(fehler::TabelleNichtGefunden, name);
+    QStringList spalten;
+    for (int i = 0; i < t->spalten.size(); ++i)
+        spalten << t->zitierteSpalten[i] + " " + t->typen[i];
+    return "CREATE TABLE " + t->zitiert + " (" + spalten.join(", ") + ")";
+}
+
+void Datenbank::schlüsselNachziehen() const {
+    v().schlüsselNachziehen();
+}
+
 void Datenbank::TableDefs(const QString& name) const {
     if (!hatTabelle(name))
         throw fehler::mit(fehler::TabelleNichtGefunden, name);

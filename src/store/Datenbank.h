@@ -67,6 +67,11 @@ public:
     QStringList ersteSpalte(const QString& anweisung) const;
     QStringList ersteSpalte(const QString& anweisung, const QVector<QVariant>& werte) const;
     void TableDefs(const QString& name) const; // raises 3078 when there is no such table
+    QStringList tabellen() const;
+    // A statement that makes the table anew, with its columns and their declared types.
+    QString tabellenDefinition(const QString& name) const;
+    // After rows were written with their keys: keys the store issues itself follow on from theirs.
+    void schlüsselNachziehen() const;
     bool hatTabelle(const QString& name) const;
     bool abfrageVorhanden(const QString& name) const;
     QueryDef QueryDefs(const QString& name) const;

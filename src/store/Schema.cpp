@@ -2,6 +2,7 @@
 
 #include "platform/Fehler.h"
 #include "store/Datenbank.h"
+#include "store/Transaktion.h"
 
 #include <QDir>
 #include <QFile>
@@ -44,6 +45,21 @@ void datenbankAnlegen(const QString& pfad, bool demo) {
 }
 
 namespace {
+void zeilenKopieren(const Datenbank& quelle, const Datenbank& ziel, const QString& tabelle) {
+    Recordset von = quelle.OpenRecordset(tabelle);
+    Recordset nach = ziel.OpenRecordset(tabelle);
+    QVector<int> gemeinsam; // the target's field of each source field, -1 where it has none
+    for (int i = 0; i < von.FieldCount(); ++i)
+        gemeinsam << nach.FieldIndex(von.FieldName(i));
+    for (; !von.Eof(); von.MoveNext()) {
+        nach.AddNew();
+        for (int i = 0; i < gemeinsam.size(); ++i)
+            if (gemeinsam[i] >= 0)
+                nach.setField(gemeinsam[i], von.Field(i));
+        nach.Update();
+    }
+}
+
 void wortTabellenAblegen(const QString& pfad) {
     const QDir neben = QFileInfo(pfad).absoluteDir();
     for (const QString& tabelle : {QString("Ruvo.MNU"), QString("Ruvo.MUL")}) {
@@ -56,5 +72,24 @@ void wortTabellenAblegen(const QString& pfad) {
 }
 
 } // namespace
+
+// One transaction for all rows: a copy stands whole or not at all. The rows of every table go
+// first, so that a trigger of one table does not take the copied rows of another.
+void datenbankKopieren(const QString& von, const QString& nach) {
+    const Datenbank quelle = Datenbank::OpenDatabase(von);
+    const QStringList tabellen = quelle.tabellen();
+    datenbankAnlegen(nach, false);
+    const Datenbank ziel = Datenbank::OpenDatabase(nach);
+    for (const QString& t : tabellen)
+        if (!ziel.hatTabelle(t))
+            ziel.skriptAusführen(quelle.tabellenDefinition(t));
+    Transaktion alles(ziel);
+    for (const QString& t : tabellen)
+        ziel.Execute("DELETE FROM [" + t + "]");
+    for (const QString& t : tabellen)
+        zeilenKopieren(quelle, ziel, t);
+    alles.commit();
+    ziel.schlüsselNachziehen();
+}
 
 } // namespace vemo

@@ -11,6 +11,11 @@ namespace vemo {
 // host's installation are written beside it.
 void datenbankAnlegen(const QString& pfad, bool demo);
 
+// Copies a whole database into a new one, from one engine to the other: the new one is made as
+// datenbankAnlegen makes it, then every table of the source replaces its rows there, keys unchanged;
+// a table the new one lacks is made with the source's columns. Counters of keys follow on.
+void datenbankKopieren(const QString& von, const QString& nach);
+
 // Runs the scripts of the resources whose names match the pattern, in the order of their names.
 class Datenbank;
 void skripteAusführen(const Datenbank& db, const QString& muster);

@@ -99,6 +99,10 @@ public:
     virtual void skriptAusführen(const QString& sql) = 0;
     // The rowid of the row the last INSERT added, where the INSERT itself did not give it.
     virtual qint64 letzteRowid() const = 0;
+    // The tables of the database, as the schema spells them.
+    virtual QStringList tabellen() = 0;
+    // After rows were written with their keys: keys the store issues itself follow on from theirs.
+    virtual void schlüsselNachziehen() {}
 
     // A prepared statement, kept for reuse. Callers reset it through Schritt.
     Anweisung anweisung(const QString& sql);

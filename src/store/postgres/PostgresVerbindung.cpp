@@ -346,6 +346,15 @@ Anweisung PostgresVerbindung::vorbereiten(const QString& sql) {
     return std::make_shared<PostgresBefehl>(m_sitzung, sql, name, PQnparams(r), spalten, typen);
 }
 
+QStringList PostgresVerbindung::tabellen() {
+    QStringList namen;
+    Schritt s(anweisung("SELECT c.relname FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace "
+                        "WHERE n.nspname = current_schema() AND c.relkind IN ('r', 'p') ORDER BY c.relname"));
+    while (s.weiter())
+        namen << s.wert(0).toString();
+    return namen;
+}
+
 QString PostgresVerbindung::tabellenName(const QString& name) {
     Schritt alle(anweisung("SELECT c.relname FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace "
                            "WHERE n.nspname = current_schema() AND c.relkind IN ('r', 'v', 'p', 'm')"));

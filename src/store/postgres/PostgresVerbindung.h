@@ -49,6 +49,8 @@ public:
     void setWartezeit(std::chrono::milliseconds wartezeit) override;
     void skriptAusführen(const QString& sql) override;
     qint64 letzteRowid() const override { return 0; } // each INSERT gives its rowid back
+    QStringList tabellen() override;
+    void schlüsselNachziehen() override { m_sitzung->befehl("CALL vemo_folgen_nachziehen()"); }
 
     // The table and column a result column comes from, by the server's numbers for them.
     std::pair<QString, QString> herkunft(Oid tabelle, int spalte, QString* typ);

@@ -275,6 +275,15 @@ qint64 SqliteVerbindung::letzteRowid() const {
     return sqlite3_last_insert_rowid(m_db);
 }
 
+QStringList SqliteVerbindung::tabellen() {
+    QStringList namen;
+    Schritt s(anweisung("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite\\_%' "
+                        "ESCAPE '\\' ORDER BY name"));
+    while (s.weiter())
+        namen << s.wert(0).toString();
+    return namen;
+}
+
 Anweisung SqliteVerbindung::vorbereiten(const QString& sql) {
     sqlite3_stmt* s = nullptr;
     const QByteArray text = sql.toUtf8();

@@ -19,6 +19,7 @@ public:
     void setWartezeit(std::chrono::milliseconds wartezeit) override;
     void skriptAusführen(const QString& sql) override;
     qint64 letzteRowid() const override;
+    QStringList tabellen() override;
 
 protected:
     Anweisung vorbereiten(const QString& sql) override;
