@@ -351,7 +351,8 @@ CREATE TABLE IDIncrement (
   TabelleName TEXT(64) COLLATE NOCASE,
   LastID INTEGER
 );
-CREATE INDEX IDIncrement_Tabelle ON IDIncrement (OffsetFaktor, TabelleName);
+-- One counter a table and replica: a second one would issue its keys again.
+CREATE UNIQUE INDEX IDIncrement_Tabelle ON IDIncrement (OffsetFaktor, TabelleName);
 
 -- The replica list of the host's database; Description holds a replica's OffsetFaktor as text.
 CREATE TABLE MSysReplicas (

@@ -12,6 +12,7 @@
 #include "language/SprachDatenbank.h"
 #include "logger/Reihenausgabe.h"
 #include "platform/Fehler.h"
+#include "store/Datenbank.h"
 #include "store/Schema.h"
 
 #include <QDir>
@@ -36,9 +37,28 @@ int initDb(const Optionen& o) {
         return 2;
     }
     try {
+        // A server's database takes the language table itself; a file has its own beside it.
+        if (vemo::Datenbank::istServer(pfad)) {
+            vemo::datenbankAnlegen(pfad, o.schalter("--demo"));
+            return 0;
+        }
         QDir().mkpath(QFileInfo(pfad).absolutePath());
         vemo::datenbankAnlegen(pfad, o.schalter("--demo"));
         vemo::spracheDatenbankAnlegen(QFileInfo(pfad).absolutePath());
+    } catch (const vemo::Fehler& f) {
+        ausgeben("vemo0100: " + f.meldung());
+        return 1;
+    }
+    return 0;
+}
+
+int copyDb(const Optionen& o) {
+    if (o.argumente.size() != 2) {
+        ausgeben("vemo0100: copy-db needs the database to copy and the new one");
+        return 2;
+    }
+    try {
+        vemo::datenbankKopieren(o.argumente.value(0), o.argumente.value(1));
     } catch (const vemo::Fehler& f) {
         ausgeben("vemo0100: " + f.meldung());
         return 1;
@@ -245,6 +265,7 @@ int befehlAusführen(const Optionen& o) {
         {"instrument", instrument},
         {"ports", ports},
         {"detect", detect},
+        {"copy-db", copyDb},
     };
     const auto it = befehle.find(o.befehl);
     if (it == befehle.end()) {

@@ -6,6 +6,7 @@
 
 const char* const Gebrauch =
     "usage: vemo0100 init-db DB [--demo]\n"
+    "       vemo0100 copy-db FROM TO  a whole database from one engine to the other, keys unchanged\n"
     "       vemo0100 --help | --version\n"
     "       vemo0100 --db DB [--language NAME] [--backup DIR] [--settings FILE] [--locale NAME]\n"
     "                [--workdir DIR] [--replica ID] [--port N|PATH] [--type CODE]\n"
@@ -62,6 +63,7 @@ struct Befehlsform {
 
 const std::vector<Befehlsform> befehlsformen{
     {"init-db", 1, {}, {"demo"}},
+    {"copy-db", 2, {}, {}},
     {"read-file", 1, {"start"}, {"json"}},
     {"receive", 0, {"start"}, {"json"}},
     {"grid", 0, {}, {"json"}},

@@ -2,6 +2,7 @@
 
 #include "platform/Fehler.h"
 #include "platform/SettingsStore.h"
+#include "store/Datenbank.h"
 #include "store/Schema.h"
 
 #include <QDir>
@@ -9,16 +10,11 @@
 
 namespace vemo {
 
-bool istServeradresse(const QString& datenbankName) {
-    return datenbankName.startsWith("postgresql://", Qt::CaseInsensitive) ||
-           datenbankName.startsWith("postgres://", Qt::CaseInsensitive);
-}
-
 QString arbeitsordner(const QString& datenbankName, const QString& gewählt, const SettingsStore& settings) {
     QString ordner = gewählt;
     if (ordner.isEmpty())
         ordner =
-            istServeradresse(datenbankName) ? settings.ordner() : QFileInfo(datenbankName).absolutePath();
+            Datenbank::istServer(datenbankName) ? settings.ordner() : QFileInfo(datenbankName).absolutePath();
     if (!QDir().mkpath(ordner))
         throw fehler::mit(fehler::PfadNichtGefunden, ordner);
     worttabellenAnlegen(ordner, false);

@@ -6,9 +6,6 @@ namespace vemo {
 
 class SettingsStore;
 
-// A database on a server rather than in a file: named by a connection URI.
-bool istServeradresse(const QString& datenbankName);
-
 // The workplace's folder for its working files, the numbered copies' counter and the word tables:
 // the one the user chose, else the folder of a database file, else (a server, which has no folder
 // the workplaces share) the folder of the workplace's settings. It is made when missing and given

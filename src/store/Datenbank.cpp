@@ -35,14 +35,18 @@ Datenbank::Datenbank() = default;
 
 Datenbank Datenbank::OpenDatabase(const QString& pfad, const QString&) {
     Datenbank db;
-    db.m_v = std::make_shared<detail::Verbindung>(pfad, false);
+    db.m_v = detail::Verbindung::öffnen(pfad, false);
     return db;
 }
 
 Datenbank Datenbank::anlegen(const QString& pfad) {
     Datenbank db;
-    db.m_v = std::make_shared<detail::Verbindung>(pfad, true);
+    db.m_v = detail::Verbindung::öffnen(pfad, true);
     return db;
+}
+
+bool Datenbank::istServer(const QString& name) {
+    return detail::Verbindung::istServer(name);
 }
 
 detail::Verbindung& Datenbank::v() const {
@@ -68,11 +72,11 @@ qint64 Datenbank::commits() const {
 }
 
 qint64 Datenbank::änderungen() const {
-    return sqlite3_total_changes64(v().db());
+    return v().änderungen();
 }
 
 void Datenbank::setWartezeit(std::chrono::milliseconds wartezeit) const {
-    sqlite3_busy_timeout(v().db(), int(wartezeit.count()));
+    v().setWartezeit(wartezeit);
 }
 
 Recordset Datenbank::OpenRecordset(const QString& quelle) const {
@@ -137,6 +141,24 @@ bool Datenbank::hatTabelle(const QString& name) const {
     return v().tabelle(ohneKlammern(name)) != nullptr;
 }
 
+QStringList Datenbank::tabellen() const {
+    return v().tabellen();
+}
+
+QString Datenbank::tabellenDefinition(const QString& name) const {
+    const auto t = v().tabelle(ohneKlammern(name));
+    if (!t)
+        throw fehler::mit(fehler::TabelleNichtGefunden, name);
+    QStringList spalten;
+    for (int i = 0; i < t->spalten.size(); ++i)
+        spalten << t->zitierteSpalten[i] + " " + t->typen[i];
+    return "CREATE TABLE " + t->zitiert + " (" + spalten.join(", ") + ")";
+}
+
+void Datenbank::schlüsselNachziehen() const {
+    v().schlüsselNachziehen();
+}
+
 void Datenbank::TableDefs(const QString& name) const {
     if (!hatTabelle(name))
         throw fehler::mit(fehler::TabelleNichtGefunden, name);
@@ -162,19 +184,18 @@ QueryDef Datenbank::QueryDefs(const QString& name) const {
 }
 
 void Datenbank::skriptAusführen(const QString& sql) const {
-    char* fehlerText = nullptr;
-    const int rc = sqlite3_exec(v().db(), sql.toUtf8().constData(), nullptr, nullptr, &fehlerText);
-    sqlite3_free(fehlerText);
-    v().schemaGeändert();
-    if (rc != SQLITE_OK)
-        detail::sqliteFehler(v().db(), rc, sql.left(200));
+    v().skriptAusführen(sql);
 }
 
 void Datenbank::abfrageSpeichern(const QString& name, const QString& text) const {
     skriptAusführen(QString("CREATE TABLE IF NOT EXISTS ") + AbfragenTabelle +
                     " (Name TEXT PRIMARY KEY COLLATE NOCASE, SQL TEXT)");
-    detail::Schritt s(
-        v().anweisung(QString("INSERT OR REPLACE INTO ") + AbfragenTabelle + " VALUES (?1, ?2)"));
+    {
+        detail::Schritt weg(v().anweisung(QString("DELETE FROM ") + AbfragenTabelle + " WHERE Name = ?1"));
+        weg.binden(1, name);
+        weg.weiter();
+    }
+    detail::Schritt s(v().anweisung(QString("INSERT INTO ") + AbfragenTabelle + " VALUES (?1, ?2)"));
     s.binden(1, name);
     s.binden(2, text);
     s.weiter();

@@ -30,16 +30,20 @@ private:
     QVector<QVariant> m_werte;
 };
 
-// An open database, shared with the host: WAL journal, synchronous=NORMAL, a busy timeout.
+// An open database, shared with the host or the office's other workplaces.
 // Copies refer to the same connection. Statements are written in the host's dialect.
 class Datenbank {
 public:
     Datenbank();
-    // Opens an existing database; a connection text such as "MS Access;pwd=..." is accepted and
-    // has no meaning for this store.
+    // Opens an existing database: an SQLite file by its path, or a PostgreSQL server's database by
+    // its connection URI (postgresql://user@host:port/dbname, a socket folder as ?host=/path). A
+    // connection text such as "MS Access;pwd=..." is accepted and has no meaning for this store.
     static Datenbank OpenDatabase(const QString& pfad, const QString& verbindungsText = {});
-    // Creates the file when it does not exist.
+    // Creates the file when it does not exist; on a server, makes the collation and functions the
+    // dialect needs.
     static Datenbank anlegen(const QString& pfad);
+    // Whether the name is a server's connection URI rather than a file.
+    static bool istServer(const QString& name);
 
     bool istOffen() const { return bool(m_v); }
     QString Name() const;
@@ -63,11 +67,17 @@ public:
     QStringList ersteSpalte(const QString& anweisung) const;
     QStringList ersteSpalte(const QString& anweisung, const QVector<QVariant>& werte) const;
     void TableDefs(const QString& name) const; // raises 3078 when there is no such table
+    QStringList tabellen() const;
+    // A statement that makes the table anew, with its columns and their declared types.
+    QString tabellenDefinition(const QString& name) const;
+    // After rows were written with their keys: keys the store issues itself follow on from theirs.
+    void schlüsselNachziehen() const;
     bool hatTabelle(const QString& name) const;
     bool abfrageVorhanden(const QString& name) const;
     QueryDef QueryDefs(const QString& name) const;
 
-    // Runs native SQLite statements, one after another (schema scripts, host data).
+    // Runs native SQLite statements, one after another (schema scripts, host data); a server takes
+    // them as its own.
     void skriptAusführen(const QString& sql) const;
     // Stores a saved query in the host's dialect.
     void abfrageSpeichern(const QString& name, const QString& text) const;

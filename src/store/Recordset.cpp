@@ -28,8 +28,10 @@ struct Spalte {
 // What the rows of a statement hold, noted once for each statement text.
 struct Abfrageform {
     QVector<Spalte> spalten;
+    QVector<int> quellen;
     QHash<QString, int> spaltenIndex;
     std::shared_ptr<const Verbindung::Tabelle> tabelle;
+    int ergebnisspalten = 0; // as the statement was prepared when the form was noted
 };
 
 struct Zeile {
@@ -52,6 +54,7 @@ struct RecordsetDaten {
     bool mitRowid = false;
     QVector<QVariant> parameter;
     QVector<Spalte> spalten;
+    QVector<int> quellen;             // the column of the statement's rows each field reads
     QHash<QString, int> spaltenIndex; // by lower-case name, and by the name as spelled
 
     // Rows taken over or deleted while the cursor walks forward leave from the front: a deque lets
@@ -89,8 +92,9 @@ struct RecordsetDaten {
     }
 
     void seiteLaden() {
-        Schritt s(v->anweisung("SELECT rowid, * FROM " + tabelle->zitiert +
-                               " WHERE rowid > ?1 ORDER BY rowid LIMIT " + QString::number(Seitengröße)));
+        Schritt s(v->anweisung("SELECT rowid, " + tabelle->zitierteSpalten.join(',') + " FROM " +
+                               tabelle->zitiert + " WHERE rowid > ?1 ORDER BY rowid LIMIT " +
+                               QString::number(Seitengröße)));
         s.binden(1, QVariant(qlonglong(letzteRowid)));
         int n = 0;
         while (s.weiter()) {
@@ -119,13 +123,12 @@ struct RecordsetDaten {
     void abfrageLaden() {
         Schritt s(v->anweisung(abfrage));
         s.platzhalterBinden(parameter);
-        const int versatz = mitRowid ? 1 : 0;
         while (s.weiter()) {
             Zeile z;
             z.rowid = mitRowid ? s.wert(0).toLongLong() : 0;
             z.werte.reserve(spalten.size());
             for (int i = 0; i < spalten.size(); ++i)
-                z.werte << s.wert(i + versatz, spalten[i].klasse);
+                z.werte << s.wert(quellen[i], spalten[i].klasse);
             z.marke = nächsteMarke++;
             zeilen.push_back(std::move(z));
         }
@@ -264,17 +267,17 @@ struct RecordsetDaten {
             namen << spaltenName(i);
             platz << "?" + QString::number(namen.size());
         }
-        const QString sql = namen.isEmpty() ? "INSERT INTO " + tabelle->zitiert + " DEFAULT VALUES"
-                                            : "INSERT INTO " + tabelle->zitiert + " (" + namen.join(',') +
-                                                  ") VALUES (" + platz.join(',') + ")";
+        const QString sql = (namen.isEmpty() ? "INSERT INTO " + tabelle->zitiert + " DEFAULT VALUES"
+                                             : "INSERT INTO " + tabelle->zitiert + " (" + namen.join(',') +
+                                                   ") VALUES (" + platz.join(',') + ")") +
+                            tabelle->einfügenZusatz;
+        Zeile z;
         {
             Schritt s(v->anweisung(sql));
             for (int k = 0; k < welche.size(); ++k)
                 s.binden(k + 1, puffer[welche[k]]);
-            s.weiter();
+            z.rowid = s.weiter() ? s.wert(0).toLongLong() : v->letzteRowid();
         }
-        Zeile z;
-        z.rowid = sqlite3_last_insert_rowid(v->db());
         z.werte = puffer;
         if (vollständig) {
             z.marke = nächsteMarke++;
@@ -628,25 +631,36 @@ std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>
     return d;
 }
 
-void spaltenLesen(RecordsetDaten& d, sqlite3_stmt* s, int versatz) {
-    const int anzahl = sqlite3_column_count(s);
+// A column that is a table's row id is no field: the server's tables carry it as a column of
+// their own, which "SELECT *" brings along.
+bool istRowid(const Ergebnisspalte& s) {
+    return !s.tabelle.isEmpty() && s.ursprung.compare("rowid", Qt::CaseInsensitive) == 0;
+}
+
+void spaltenLesen(RecordsetDaten& d, const Befehl& s, int versatz) {
+    const int anzahl = s.spaltenAnzahl();
     QString tabellenName;
+    QVector<Ergebnisspalte> herkunft;
     for (int i = versatz; i < anzahl; ++i) {
+        const Ergebnisspalte e = s.spalte(i);
+        if (istRowid(e))
+            continue;
         Spalte sp;
-        sp.name = QString::fromUtf8(sqlite3_column_name(s, i));
-        sp.typ = QString::fromUtf8(sqlite3_column_decltype(s, i));
+        sp.name = e.name;
+        sp.typ = e.typ;
         sp.klasse = typklasse(sp.typ);
-        if (const char* t = sqlite3_column_table_name(s, i); t && tabellenName.isEmpty())
-            tabellenName = QString::fromUtf8(t);
+        if (!e.tabelle.isEmpty() && tabellenName.isEmpty())
+            tabellenName = e.tabelle;
         d.spalten.push_back(sp);
+        d.quellen.push_back(i);
+        herkunft.push_back(e);
     }
     if (d.mitRowid && !tabellenName.isEmpty()) {
         d.tabelle = d.v->tabelle(tabellenName);
-        for (int i = versatz; i < anzahl && d.tabelle; ++i) {
-            const char* t = sqlite3_column_table_name(s, i);
-            const char* ursprung = sqlite3_column_origin_name(s, i);
-            if (t && ursprung && tabellenName.compare(QString::fromUtf8(t), Qt::CaseInsensitive) == 0)
-                d.spalten[i - versatz].tabellenIndex = d.tabelle->index(QString::fromUtf8(ursprung));
+        for (int i = 0; i < herkunft.size() && d.tabelle; ++i) {
+            const Ergebnisspalte& e = herkunft[i];
+            if (!e.ursprung.isEmpty() && tabellenName.compare(e.tabelle, Qt::CaseInsensitive) == 0)
+                d.spalten[i].tabellenIndex = d.tabelle->index(e.ursprung);
         }
     }
     d.spaltenErfassen();
@@ -678,14 +692,16 @@ std::shared_ptr<RecordsetDaten> abfrageÖffnen(const std::shared_ptr<Verbindung>
     // Another connection may have changed the table since the form was noted: its column count
     // tells that SQLite prepared the statement anew.
     const auto form = v->abfrageform(d->abfrage);
-    if (form && form->spalten.size() + versatz == sqlite3_column_count(s.get())) {
+    if (form && form->ergebnisspalten == s->spaltenAnzahl()) {
         d->spalten = form->spalten;
+        d->quellen = form->quellen;
         d->spaltenIndex = form->spaltenIndex;
         d->tabelle = form->tabelle;
     } else {
-        spaltenLesen(*d, s.get(), versatz);
-        v->abfrageformMerken(d->abfrage, std::make_shared<const Abfrageform>(
-                                             Abfrageform{d->spalten, d->spaltenIndex, d->tabelle}));
+        spaltenLesen(*d, *s, versatz);
+        v->abfrageformMerken(d->abfrage,
+                             std::make_shared<const Abfrageform>(Abfrageform{
+                                 d->spalten, d->quellen, d->spaltenIndex, d->tabelle, s->spaltenAnzahl()}));
     }
     d->laden();
     return d;

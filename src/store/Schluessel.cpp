@@ -35,9 +35,11 @@ qint32 weiterzählen(Recordset& z) {
     return qint32(neu);
 }
 
-// The table has no counter yet. AddNew holds the write lock; a second look under it finds a
-// counter that another writer added since the cursor was opened, and the count goes on there
-// instead of starting a second counter for the same table.
+// The table has no counter yet. AddNew holds the write lock where the engine locks the database;
+// a second look under it finds a counter that another writer added since the cursor was opened,
+// and the count goes on there instead of starting a second counter for the same table. Where the
+// engine locks rows only, two writers may both add one: the counter's unique index refuses the
+// second, which then counts on in the first.
 qint32 zählerAnlegen(Datenbank& db, Recordset& z, qint64 offsetFaktor, const QString& name) {
     const qint64 erster = offsetFaktor * 100000000 + 10000;
     if (erster > INT32_MAX || erster < INT32_MIN)
@@ -51,7 +53,14 @@ qint32 zählerAnlegen(Datenbank& db, Recordset& z, qint64 offsetFaktor, const QS
     z.setField("OffsetFaktor", offsetFaktor);
     z.setField("TabelleName", name);
     z.setField("LastID", erster);
-    z.Update();
+    try {
+        z.Update();
+    } catch (const Fehler& f) {
+        if (f.nummer() != fehler::DoppelterSchlüssel)
+            throw;
+        z = zählerÖffnen(db, offsetFaktor, name);
+        return weiterzählen(z);
+    }
     z.setBookmark(z.LastModified());
     return qint32(erster);
 }

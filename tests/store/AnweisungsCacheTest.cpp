@@ -6,14 +6,15 @@ using namespace vemo;
 
 namespace {
 
-using AnweisungsCacheTest = test::Testumgebung;
+using AnweisungsCacheTest = test::Motorumgebung;
 constexpr int Grenze = detail::Verbindung::AnweisungenImCache;
 
 // A long run prepares a new statement for nearly every row: the cache keeps a bounded number, the
 // least recently used goes, and a statement pushed out while it runs reads on to its end.
-TEST_F(AnweisungsCacheTest, KeepsTheRecentlyUsedAndLetsARunningStatementFinish) {
+TEST_P(AnweisungsCacheTest, KeepsTheRecentlyUsedAndLetsARunningStatementFinish) {
     sql("INSERT INTO Kunde (KundeID) VALUES (1), (2), (3);");
-    detail::Verbindung v(m_dbPfad, false);
+    const auto verbindung = detail::Verbindung::öffnen(m_dbPfad, false);
+    detail::Verbindung& v = *verbindung;
     detail::Schritt läuft(v.anweisung("SELECT KundeID FROM Kunde ORDER BY KundeID"));
     ASSERT_TRUE(läuft.weiter());
     EXPECT_EQ(läuft.wert(0).toInt(), 1);
@@ -40,7 +41,7 @@ TEST_F(AnweisungsCacheTest, KeepsTheRecentlyUsedAndLetsARunningStatementFinish) 
 }
 
 // A record set whose statement has left the cache requeries and writes as before.
-TEST_F(AnweisungsCacheTest, RecordSetsOutliveTheirStatementsInTheCache) {
+TEST_P(AnweisungsCacheTest, RecordSetsOutliveTheirStatementsInTheCache) {
     sql("INSERT INTO Kunde (KundeID, Name) VALUES (1, 'A');");
     Recordset rs = db().OpenRecordset("SELECT * FROM Kunde WHERE KundeID = 1");
     for (int i = 0; i < 2 * Grenze; ++i)
@@ -55,9 +56,10 @@ TEST_F(AnweisungsCacheTest, RecordSetsOutliveTheirStatementsInTheCache) {
 // Statements that differ only in the key spliced into their condition are one prepared statement.
 // A column added meanwhile, by a statement or by a script, is in the next set opened on the same
 // text.
-TEST_F(AnweisungsCacheTest, SplicedKeysShareOneStatementThatFollowsTheSchema) {
+TEST_P(AnweisungsCacheTest, SplicedKeysShareOneStatementThatFollowsTheSchema) {
     sql("INSERT INTO Kunde (KundeID, Name) VALUES (1, 'A'), (2, 'B'), (3, 'C');");
-    detail::Verbindung v(m_dbPfad, false);
+    const auto verbindung = detail::Verbindung::öffnen(m_dbPfad, false);
+    detail::Verbindung& v = *verbindung;
     const int vorher = v.anweisungenImCache();
     for (int i = 0; i < 3 * Grenze; ++i) {
         const Übersetzung ü =
@@ -76,5 +78,7 @@ TEST_F(AnweisungsCacheTest, SplicedKeysShareOneStatementThatFollowsTheSchema) {
     sql("ALTER TABLE Kunde ADD COLUMN Dort TEXT; UPDATE Kunde SET Dort = 'd' WHERE KundeID = 2;");
     EXPECT_EQ(db().OpenRecordset(text).Text("Dort"), "d");
 }
+
+INSTANTIATE_TEST_SUITE_P(Motoren, AnweisungsCacheTest, test::beideMotoren, test::motorName);
 
 } // namespace

@@ -6,7 +6,7 @@ using namespace vemo;
 
 namespace {
 
-class RecordsetTest : public test::Testumgebung {
+class RecordsetTest : public test::Motorumgebung {
 protected:
     // Rows 1..n of 0100_EinleseDaten, with StromkreisNr "S<i>"; row 3 has a Null Datum.
     void zeilen(int n) {
@@ -24,7 +24,7 @@ protected:
     }
 };
 
-TEST_F(RecordsetTest, CursorStandsOnFirstRowAndCountsVisitedRows) {
+TEST_P(RecordsetTest, CursorStandsOnFirstRowAndCountsVisitedRows) {
     zeilen(150); // more than a page
     Recordset rs = db().OpenRecordset("0100_EinleseDaten");
     EXPECT_FALSE(rs.Bof());
@@ -52,7 +52,7 @@ TEST_F(RecordsetTest, CursorStandsOnFirstRowAndCountsVisitedRows) {
     EXPECT_TRUE(rs.Bof());
 }
 
-TEST_F(RecordsetTest, EmptySetIsBothBofAndEof) {
+TEST_P(RecordsetTest, EmptySetIsBothBofAndEof) {
     Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
     EXPECT_TRUE(rs.Bof());
     EXPECT_TRUE(rs.Eof());
@@ -61,7 +61,7 @@ TEST_F(RecordsetTest, EmptySetIsBothBofAndEof) {
     EXPECT_EQ(fehlerNummer([&] { rs.Edit(); }), 3021);
 }
 
-TEST_F(RecordsetTest, AddNewThenLastModifiedMakesTheNewRowCurrent) {
+TEST_P(RecordsetTest, AddNewThenLastModifiedMakesTheNewRowCurrent) {
     zeilen(100);
     Recordset rs = db().OpenRecordset("0100_EinleseDaten"); // not read to its end
     rs.AddNew();
@@ -89,7 +89,7 @@ TEST_F(RecordsetTest, AddNewThenLastModifiedMakesTheNewRowCurrent) {
     EXPECT_EQ(wert("SELECT StromkreisNr FROM 0100_EinleseDaten WHERE MessungID = 1"), "0001");
 }
 
-TEST_F(RecordsetTest, FieldsAreWrittenOnlyBetweenAddNewOrEditAndUpdate) {
+TEST_P(RecordsetTest, FieldsAreWrittenOnlyBetweenAddNewOrEditAndUpdate) {
     zeilen(2);
     Recordset rs = db().OpenRecordset("0100_EinleseDaten");
     EXPECT_EQ(fehlerNummer([&] { rs.setField("KundeNr", "1"); }), 3020);
@@ -106,7 +106,7 @@ TEST_F(RecordsetTest, FieldsAreWrittenOnlyBetweenAddNewOrEditAndUpdate) {
     EXPECT_EQ(fehlerNummer([&] { rs.setField("KundeNr", "x"); }), 3020);
 }
 
-TEST_F(RecordsetTest, DeleteLeavesNoCurrentRowUntilTheNextMove) {
+TEST_P(RecordsetTest, DeleteLeavesNoCurrentRowUntilTheNextMove) {
     zeilen(4);
     Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
     rs.MoveNext();
@@ -121,7 +121,7 @@ TEST_F(RecordsetTest, DeleteLeavesNoCurrentRowUntilTheNextMove) {
     EXPECT_EQ(anzahl("0100_EinleseDaten"), 2);
 }
 
-TEST_F(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
+TEST_P(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
     zeilen(5);
     sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001'), (2, 1, '003');");
     Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
@@ -148,7 +148,7 @@ TEST_F(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
     EXPECT_EQ(fehlerNummer([&] { w.FindFirst("[1] = "); }), 3075);
 }
 
-TEST_F(RecordsetTest, CriteriaNestedTooDeepAreASyntaxErrorNotAStackOverflow) {
+TEST_P(RecordsetTest, CriteriaNestedTooDeepAreASyntaxErrorNotAStackOverflow) {
     zeilen(3);
     Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
     // Far more brackets and conjunctions than any criterion of the system still read.
@@ -167,7 +167,7 @@ TEST_F(RecordsetTest, CriteriaNestedTooDeepAreASyntaxErrorNotAStackOverflow) {
     EXPECT_EQ(rs.Field("MessungID").toInt(), 2); // a refused criterion leaves the cursor where it stood
 }
 
-TEST_F(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
+TEST_P(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
     sql("INSERT INTO \"0100_Messung\" (MessID, StromkreisID, FIT) VALUES (1, 7, '20');");
     Recordset rs = db().OpenRecordset("SELECT MessID,FIT as derWert, StromkreisID as id  FROM 0100_Messung "
                                       "WHERE StromkreisID = 7");
@@ -190,7 +190,7 @@ TEST_F(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
     EXPECT_EQ(fehlerNummer([&] { verbund.Edit(); }), 3027);
 }
 
-TEST_F(RecordsetTest, NamesAreCaseInsensitiveAndMissingTablesAreReported) {
+TEST_P(RecordsetTest, NamesAreCaseInsensitiveAndMissingTablesAreReported) {
     sql("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (1, 1, '001');");
     EXPECT_EQ(db().OpenRecordset("0100_STROMKREIS").Text("code"), "001");
     EXPECT_EQ(
@@ -203,7 +203,7 @@ TEST_F(RecordsetTest, NamesAreCaseInsensitiveAndMissingTablesAreReported) {
     EXPECT_EQ(fehlerNummer([&] { db().OpenRecordset("Nirgends"); }), 3078);
 }
 
-TEST_F(RecordsetTest, SavedQueriesRunWithTheirParameter) {
+TEST_P(RecordsetTest, SavedQueriesRunWithTheirParameter) {
     sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code, Nr, Name) VALUES "
         "(1, 5, '002', '', 'B'), (2, 5, '001', 'N', 'A'), (3, 6, '001', '', 'C');");
     QueryDef q = db().QueryDefs("AnlagenVonKunde");
@@ -218,7 +218,7 @@ TEST_F(RecordsetTest, SavedQueriesRunWithTheirParameter) {
     EXPECT_EQ(fehlerNummer([&] { db().QueryDefs("Gibtsnicht"); }), 3265);
 }
 
-TEST_F(RecordsetTest, DatesAndNumbersKeepTheirTypes) {
+TEST_P(RecordsetTest, DatesAndNumbersKeepTheirTypes) {
     Recordset rs = db().OpenRecordset("0100_Prüfung");
     rs.AddNew();
     rs.setField("PrüfungID", 1);
@@ -242,7 +242,7 @@ TEST_F(RecordsetTest, DatesAndNumbersKeepTheirTypes) {
 
 // Values given for the placeholders go in as values: an apostrophe or a piece of SQL in them is
 // only text, and the set they select is written and requeried like any other.
-TEST_F(RecordsetTest, PlaceholdersTakeValuesNeverStatementText) {
+TEST_P(RecordsetTest, PlaceholdersTakeValuesNeverStatementText) {
     db().Execute("INSERT INTO Kunde (KundeID, Name, Nummernkreis) VALUES (?, ?, ?)", {1, "O'Neill", "12"});
     db().Execute("INSERT INTO Kunde (KundeID, Name, Nummernkreis) VALUES (?, ?, ?)",
                  {2, "x' OR '1'='1", nullWert()});
@@ -275,5 +275,7 @@ TEST_F(RecordsetTest, PlaceholdersTakeValuesNeverStatementText) {
     EXPECT_EQ(anzahl("Kunde"), 2);
     EXPECT_EQ(fehlerNummer([] { Datenbank().OpenRecordset("SELECT * FROM Kunde", {}); }), 91);
 }
+
+INSTANTIATE_TEST_SUITE_P(Motoren, RecordsetTest, test::beideMotoren, test::motorName);
 
 } // namespace

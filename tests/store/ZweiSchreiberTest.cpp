@@ -4,6 +4,7 @@
 #include "platform/SettingsStore.h"
 #include "store/Datenbank.h"
 #include "store/Recordset.h"
+#include "store/Transaktion.h"
 #include "support/Hilfsprozess.h"
 #include "support/Testumgebung.h"
 
@@ -41,6 +42,27 @@ const test::Hilfsprozess schlüsselZiehen("neue-ids", [](const QStringList& a) {
     return ui.meldungen.isEmpty() ? 0 : 1;
 });
 
+// Edits the first customer and keeps the lock: "gesperrt" on a line of its own, then it waits to be
+// killed, as a workplace that dies in the middle of a change. Argument: the database.
+const test::Hilfsprozess kundeSperren("kunde-sperren", [](const QStringList& a) {
+    const Datenbank db = Datenbank::OpenDatabase(a.value(0));
+    Recordset kunde = db.OpenRecordset("SELECT * FROM Kunde ORDER BY KundeID");
+    kunde.Edit();
+    std::printf("gesperrt\n");
+    std::fflush(stdout);
+    QThread::sleep(120);
+    return 1;
+});
+
+int fehlerNummer(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (const Fehler& e) {
+        return e.nummer();
+    }
+    return 0;
+}
+
 // Another writer on the same file that does not wait: it tells whether the write lock is free.
 class Fremder {
 public:
@@ -73,17 +95,8 @@ private:
     sqlite3* m_db = nullptr;
 };
 
-class ZweiSchreiberTest : public test::Testumgebung {
+class ZweiSchreiberTest : public test::Motorumgebung {
 protected:
-    static int fehlerNummer(const std::function<void()>& f) {
-        try {
-            f();
-        } catch (const Fehler& e) {
-            return e.nummer();
-        }
-        return 0;
-    }
-
     // Two processes allocating keys for the table at once; the keys of both. This process holds the
     // write lock until both have started and wait for it, so that they begin together.
     std::vector<qint32> zweiProzesse(const QString& tabelle, int jeProzess) {
@@ -123,7 +136,7 @@ protected:
 
 // A cursor kept open on the counter row, as the key allocator keeps it, counts from what the table
 // holds when it edits, not from what it read before the other connection wrote.
-TEST_F(ZweiSchreiberTest, TwoConnectionsCountingInTurnNeverIssueAKeyTwice) {
+TEST_P(ZweiSchreiberTest, TwoConnectionsCountingInTurnNeverIssueAKeyTwice) {
     db().Execute("INSERT INTO IDIncrement (OffsetFaktor, TabelleName, LastID) VALUES (?, ?, ?)",
                  {0, "Wechsel", 10000});
     const Datenbank zweite = Datenbank::OpenDatabase(m_dbPfad);
@@ -143,7 +156,7 @@ TEST_F(ZweiSchreiberTest, TwoConnectionsCountingInTurnNeverIssueAKeyTwice) {
     EXPECT_EQ(wert("SELECT LastID FROM IDIncrement WHERE TabelleName = 'Wechsel'"), "30000");
 }
 
-TEST_F(ZweiSchreiberTest, TwoProcessesAllocatingForOneTableGetDistinctKeys) {
+TEST_P(ZweiSchreiberTest, TwoProcessesAllocatingForOneTableGetDistinctKeys) {
     db().Execute("INSERT INTO IDIncrement (OffsetFaktor, TabelleName, LastID) VALUES (?, ?, ?)",
                  {0, "0100_Messung", 19999});
     lückenlos(zweiProzesse("0100_Messung", 10000), 20000, 20000);
@@ -152,14 +165,56 @@ TEST_F(ZweiSchreiberTest, TwoProcessesAllocatingForOneTableGetDistinctKeys) {
 
 // Neither process finds a counter for the table: the second to get the lock finds the one the first
 // has added, and counts on there.
-TEST_F(ZweiSchreiberTest, TwoProcessesStartingWithoutACounterShareTheOneCreated) {
+TEST_P(ZweiSchreiberTest, TwoProcessesStartingWithoutACounterShareTheOneCreated) {
     lückenlos(zweiProzesse("0100_Stromkreis", 10000), 10000, 20000);
     EXPECT_EQ(wert("SELECT Count(*) FROM IDIncrement WHERE TabelleName = '0100_Stromkreis'"), "1");
 }
 
+// Edit locks the row it edits until Update or CancelUpdate; another workplace waits for it up to
+// its wait time and is then told the data are locked, as on either engine. The server locks the
+// row, SQLite the file. A workplace that dies with a row locked leaves no lock behind.
+TEST_P(ZweiSchreiberTest, EditLocksItsRowAndAWorkplaceThatDiesLeavesNoLock) {
+    sql("INSERT INTO Kunde (KundeID, Name) VALUES (1, 'Eins'), (2, 'Zwei');");
+    const Datenbank andere = Datenbank::OpenDatabase(m_dbPfad);
+    andere.setWartezeit(std::chrono::milliseconds(300));
+    Recordset hier = db().OpenRecordset("SELECT * FROM Kunde ORDER BY KundeID");
+    Recordset dort = andere.OpenRecordset("SELECT * FROM Kunde ORDER BY KundeID");
+    hier.Edit();
+    try {
+        dort.Edit();
+        ADD_FAILURE() << "Edit of a locked row";
+    } catch (const Fehler& f) {
+        EXPECT_EQ(f.meldung(), "3260 Die Daten sind gesperrt. (database is locked)");
+        EXPECT_TRUE(istSpeicherausfall(f));
+    }
+    dort.MoveNext();
+    EXPECT_EQ(fehlerNummer([&] { dort.Edit(); }), GetParam() == test::Motor::Server ? 0 : 3260);
+    dort.CancelUpdate();
+    hier.setField("Name", "Neu");
+    hier.Update();
+    dort.MoveFirst();
+    dort.Edit();
+    EXPECT_EQ(dort.Text("Name"), "Neu");
+    dort.CancelUpdate();
+
+    QProcess sterbend;
+    test::Hilfsprozess::starten(sterbend, "kunde-sperren", {m_dbPfad});
+    ASSERT_TRUE(sterbend.waitForReadyRead(20000));
+    EXPECT_EQ(sterbend.readLine().trimmed(), "gesperrt");
+    EXPECT_EQ(fehlerNummer([&] { dort.Edit(); }), 3260);
+    sterbend.kill();
+    sterbend.waitForFinished();
+    andere.setWartezeit(std::chrono::milliseconds(10000));
+    EXPECT_EQ(fehlerNummer([&] { dort.Edit(); }), 0);
+    dort.CancelUpdate();
+}
+
 // Edit and AddNew hold the write lock until the row is written or given up; every way of giving it
 // up releases the lock, and what is written is there for the other writer at once.
-TEST_F(ZweiSchreiberTest, EditReadsTheRowAgainAndHoldsTheLockUntilTheRowIsDone) {
+// SQLite's lock is the file's: what follows is about how it is taken and given back.
+using SqliteSperreTest = test::Testumgebung;
+
+TEST_F(SqliteSperreTest, EditReadsTheRowAgainAndHoldsTheLockUntilTheRowIsDone) {
     sql("INSERT INTO Kunde (KundeID, Name) VALUES (1, 'Alt'), (2, 'Zwei'), (3, 'Drei');");
     const Fremder fremder(m_dbPfad);
     Recordset rs = db().OpenRecordset("Kunde");
@@ -203,7 +258,7 @@ TEST_F(ZweiSchreiberTest, EditReadsTheRowAgainAndHoldsTheLockUntilTheRowIsDone) 
 
 // A row written while another cursor of the connection holds the lock is committed with that hold,
 // and stands although that cursor gives up its own change.
-TEST_F(ZweiSchreiberTest, RowsWrittenUnderAnotherCursorsHoldStand) {
+TEST_F(SqliteSperreTest, RowsWrittenUnderAnotherCursorsHoldStand) {
     sql("INSERT INTO Kunde (KundeID, Name) VALUES (1, 'Alt');");
     const Fremder fremder(m_dbPfad);
     Recordset kunde = db().OpenRecordset("Kunde");
@@ -225,7 +280,7 @@ TEST_F(ZweiSchreiberTest, RowsWrittenUnderAnotherCursorsHoldStand) {
 
 // Two read-ins of one dump into one database at the same moment, as two workplaces might start
 // them: every row of both arrives, under keys of its own.
-TEST_F(ZweiSchreiberTest, TwoReadInsAtOnceBothLand) {
+TEST_F(SqliteSperreTest, TwoReadInsAtOnceBothLand) {
     const QString vemo = QString(VEMO_BIN_DIR) + "/vemo0100";
     const QString probe = test::quelle("samples/corvex-verteilung.ser");
     const auto lauf = [&](const QString& db, const QString& wer, QProcess& p) {
@@ -267,5 +322,7 @@ TEST_F(ZweiSchreiberTest, TwoReadInsAtOnceBothLand) {
         EXPECT_EQ(beide.second, 2 * einmal.second) << "round " << runde;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Motoren, ZweiSchreiberTest, test::beideMotoren, test::motorName);
 
 } // namespace

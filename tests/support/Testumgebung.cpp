@@ -17,6 +17,17 @@ void Testumgebung::SetUp() {
     neueDatenbank(false);
 }
 
+void Motorumgebung::SetUp() {
+    m_motor = GetParam();
+    QString grund;
+    if (m_motor == Motor::Server && !Postgresserver::gestartet(&grund)) {
+        if (Postgresserver::pflicht())
+            FAIL() << grund.toStdString();
+        GTEST_SKIP() << grund.toStdString();
+    }
+    Testumgebung::SetUp();
+}
+
 void Testumgebung::TearDown() {
     EXPECT_FALSE(m_wachhund) << "the dialog did not end by itself";
     modulNeuLaden();
@@ -28,8 +39,13 @@ void Testumgebung::neueDatenbank(bool demo) {
     // As the host's change of database does: the allocator lets go of the old one's counter.
     NeueID("", "");
     modul().db.Close();
-    m_dbPfad = m_dir.filePath("vemotrix.db");
-    datenbankAnlegen(m_dbPfad, demo);
+    if (m_motor == Motor::Server) {
+        QString grund;
+        m_dbPfad = Postgresserver::gestartet(&grund)->neueDatenbank(demo);
+    } else {
+        m_dbPfad = m_dir.filePath("vemotrix.db");
+        datenbankAnlegen(m_dbPfad, demo);
+    }
     modul().db = Datenbank::OpenDatabase(m_dbPfad);
     modul().datenbankName = m_dbPfad;
     modul().Datenbankverzeichnis = QDir::toNativeSeparators(m_dir.path());

@@ -4,6 +4,7 @@
 #include "platform/AufzeichnungsUi.h"
 #include "platform/SettingsStore.h"
 #include "store/Datenbank.h"
+#include "support/Postgresserver.h"
 
 #include <QPointer>
 #include <QString>
@@ -43,8 +44,16 @@ protected:
     QTemporaryDir m_dir;
     AufzeichnungsUi m_ui;
     SpeicherSettingsStore m_settings;
-    QString m_dbPfad;
+    QString m_dbPfad; // a file, or a server's URI
+    Motor m_motor = Motor::Sqlite;
     bool m_wachhund = false;
+};
+
+// The same for each engine: a suite of these runs each test on an SQLite file and on a database of
+// the test program's own PostgreSQL server.
+class Motorumgebung : public Testumgebung, public ::testing::WithParamInterface<Motor> {
+protected:
+    void SetUp() override;
 };
 
 // A file of the source tree (samples, data).
