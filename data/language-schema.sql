@@ -11,3 +11,8 @@ CREATE TABLE Sprache (
   VersionID TEXT(50)
 );
 CREATE INDEX Sprache_TextID ON Sprache (TextID);
+
+-- The query a text is looked up with. On a server the table of saved queries is the database's own.
+CREATE TABLE IF NOT EXISTS Abfragen (Name TEXT PRIMARY KEY COLLATE NOCASE, SQL TEXT);
+INSERT INTO Abfragen VALUES ('Suchen', 'PARAMETERS paraDeutsch Text;
+SELECT * FROM Sprache WHERE TextID = [paraDeutsch];');

@@ -59,6 +59,8 @@ QString Sprachen::verbindungsText() const {
 }
 
 QString Sprachen::dateipfad() const {
+    if (Datenbank::istServer(m_name))
+        return m_name;
     QString verzeichnis = m_verzeichnis;
     while (verzeichnis.size() > 1 && (verzeichnis.endsWith('\\') || verzeichnis.endsWith('/')))
         verzeichnis.chop(1);
@@ -81,7 +83,7 @@ void Sprachen::spracheWählen(const QString& name) {
         m_suchen.Parameters("paraDeutsch") = QString();
         const Recordset spalten = m_suchen.OpenRecordset();
         for (int i = 0; i < spalten.FieldCount(); ++i)
-            if (spalten.FieldName(i) == name)
+            if (spalten.FieldName(i).compare(name, Qt::CaseInsensitive) == 0)
                 return;
         ui().MsgBox("Sprache: " + name + "\r\nnicht vorhanden. Deutsch wird eingestellt !",
                     modul().anwendungstitel, information());

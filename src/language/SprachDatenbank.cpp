@@ -17,15 +17,15 @@ void spracheDatenbankAnlegen(const QString& verzeichnis) {
         QFile::remove(pfad + rest);
     const Datenbank db = Datenbank::anlegen(pfad);
     skripteAusführen(db, "language-*.sql");
-    db.abfrageSpeichern("Suchen", "PARAMETERS paraDeutsch Text;\n"
-                                  "SELECT * FROM Sprache WHERE TextID = [paraDeutsch];");
 }
 
 void spracheEinstellen(const QString& sprache) {
     Sprachen& sprachen = modul().sprachen;
-    // The language database is the office's, beside the database, not the workplace's.
-    sprachen.setVerzeichnisDatenbank(QFileInfo(modul().datenbankName).absolutePath());
-    sprachen.setNameDatenbank(sprachdatenbank::DateiName);
+    // The language table is the office's: in a server's database itself, beside a database file.
+    const QString& db = modul().datenbankName;
+    const bool server = Datenbank::istServer(db);
+    sprachen.setVerzeichnisDatenbank(server ? QString() : QFileInfo(db).absolutePath());
+    sprachen.setNameDatenbank(server ? db : sprachdatenbank::DateiName);
     sprachen.setPasswort(sprachdatenbank::Passwort);
     sprachen.setVersion(komponentenVersion);
     if (mitFalle([&] { sprachen.DatenbankZuweisen(); }))

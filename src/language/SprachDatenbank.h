@@ -16,7 +16,7 @@ inline const QString Passwort = "lumo";
 void spracheDatenbankAnlegen(const QString& verzeichnis);
 
 // Writing the host's property Sprache: opens the language database beside the host's database
-// (Datenbankverzeichnis) for the shared Sprachen and chooses the language, with its check. When the
+// file, or a server's database itself, for the shared Sprachen and chooses the language, with its check. When the
 // file cannot be opened, the error is shown, the name is kept as it is and the texts stay German.
 void spracheEinstellen(const QString& sprache);
 
