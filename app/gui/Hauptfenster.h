@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Programmsprache.h"
+
+#include <QKeySequence>
 #include <QMainWindow>
 #include <functional>
 #include <vector>
@@ -30,6 +33,7 @@ private:
         QString text;
         std::function<void()> ausführen;
         bool brauchtDatenbank = true;
+        QKeySequence taste = {};
         QAction* aktion = nullptr;
     };
 
@@ -62,4 +66,5 @@ private:
     std::vector<Befehl> m_befehle;
     std::vector<std::pair<QAction*, QString>> m_dateiAktionen;
     Uebersicht* m_übersicht;
+    Programmsprache m_programmsprache;
 };
