@@ -1,3 +1,5 @@
+#include "Programmsprache.h"
+
 #include "grid/EinleseDatenAnsicht.h"
 #include "language/SprachDatenbank.h"
 #include "support/Testumgebung.h"
@@ -22,6 +24,7 @@ protected:
         neueDatenbank(true);
         spracheDatenbankAnlegen(m_dir.path());
         spracheEinstellen(GetParam());
+        m_programmsprache.wählen(GetParam());
         EinleseDatenController::datenübernahmeEinsetzen(Übernehmen);
         sql("INSERT INTO \"0100_EinleseGeräteDaten\" (\"GeräteID\", \"PrüfgerätName\") VALUES (1, 'ZEMAK "
             "3710');"
@@ -51,11 +54,19 @@ protected:
         return tabelle()->visualRect(tabelle()->model()->index(zeile - 1, spalte)).center();
     }
 
+    Programmsprache m_programmsprache;
     std::unique_ptr<EinleseDatenController> m_formular;
     std::unique_ptr<EinleseDatenAnsicht> m_ansicht;
 };
 
 TEST_P(EinleseGridTest, NamesStandWholeTheMomentStaysAndTheTakeOverEndsTheGrid) {
+    // The pictures of the README.
+    if (const QByteArray ordner = qgetenv("VEMO_BILDER"); !ordner.isEmpty()) {
+        m_ansicht->resize(1150, 330);
+        QCoreApplication::processEvents();
+        m_ansicht->grab().save(QString::fromLocal8Bit(ordner) + "/grid-" +
+                               QString(GetParam()).left(2).toLower() + ".png");
+    }
     // Wider than its columns need, the window shares its room among them; no text is cut.
     m_ansicht->resize(1600, m_ansicht->height());
     QCoreApplication::processEvents();
@@ -67,9 +78,6 @@ TEST_P(EinleseGridTest, NamesStandWholeTheMomentStaysAndTheTakeOverEndsTheGrid) 
         summe += tabelle()->columnWidth(spalte);
     }
     EXPECT_EQ(summe, tabelle()->viewport()->width());
-    if (const QByteArray ordner = qgetenv("VEMO_BILDER"); !ordner.isEmpty())
-        m_ansicht->grab().save(QString::fromLocal8Bit(ordner) + "/grid-" +
-                               QString(GetParam()).left(2).toLower() + ".png");
 
     // The row without a moment is assigned anew; the other row's moment stays in sight.
     QTest::mouseClick(tabelle()->viewport(), Qt::LeftButton, {}, mitte(1, 3));
