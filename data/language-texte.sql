@@ -171,7 +171,17 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Text', 'Text'),
   ('Neue Demo-Datenbank', 'New demo database'),
   ('Zuerst eine Datenbank wählen.', 'Choose a database first.'),
-  ('vemotrix-Datenbank', 'vemotrix database');
+  ('vemotrix-Datenbank', 'vemotrix database'),
+  -- The host program's menus, with the letter of each entry's mnemonic.
+  ('&Datei', '&File'),
+  ('&Neue Demo-Datenbank', '&New demo database'),
+  ('&Beenden', 'E&xit'),
+  ('&Messungen', '&Measurements'),
+  ('Daten &empfangen', '&Receive data'),
+  ('Einlese&daten', 'Read-in &data'),
+  ('Einlesen aus Da&tei', 'Read from &file'),
+  ('Daten &importieren', '&Import data'),
+  ('Einstellung &ZEMAK 3710', '&ZEMAK 3710 settings');
 
 -- The grid's commands on the command line: the legend and the refusals.
 INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES

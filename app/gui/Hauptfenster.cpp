@@ -62,8 +62,10 @@ Hauptfenster::Hauptfenster(vemo0100Modul15a& komponente, SettingsStore& einstell
     const QString gemerkteDb = gemerkt("Datenbank");
     const bool geöffnet = (!datenbank.isEmpty() && datenbankSetzen(datenbank)) ||
                           (!gemerkteDb.isEmpty() && datenbankSetzen(gemerkteDb));
-    if (!geöffnet)
+    if (!geöffnet) {
+        m_programmsprache.wählen(gemerkt("Sprache", "Deutsch (&Deutschland)"));
         beschriften();
+    }
     resize(1100, 700);
 }
 
@@ -91,8 +93,11 @@ QWidget* Hauptfenster::eigenschaftenBauen() {
     connect(wählen, &QPushButton::clicked, this, &Hauptfenster::datenbankWählen);
     zeile("Datenbank", m_datenbank, wählen);
     m_sprache = new QComboBox;
-    m_sprache->addItems(SprachenListe);
-    connect(m_sprache, &QComboBox::activated, this, [this] { spracheSetzen(m_sprache->currentText()); });
+    m_sprache->setObjectName("Sprache");
+    for (const QString& name : SprachenListe)
+        m_sprache->addItem(Programmsprache::anzeigename(name), name);
+    connect(m_sprache, &QComboBox::activated, this,
+            [this] { spracheSetzen(m_sprache->currentData().toString()); });
     zeile("Sprache", m_sprache);
     m_port = new Portauswahl;
     connect(m_port, &Portauswahl::portGesetzt, this, &Hauptfenster::eigenschaftenÜbernehmen);
@@ -137,51 +142,60 @@ void Hauptfenster::arbeitsordnerSetzen() {
 
 void Hauptfenster::menüsBauen() {
     m_dateiMenü = menuBar()->addMenu(QString());
-    const auto dateiAktion = [this](const char* text, const std::function<void()>& f) {
+    const auto dateiAktion = [this](const char* text, const QKeySequence& taste,
+                                    const std::function<void()>& f) {
         QAction* a = m_dateiMenü->addAction(QString(), this, f);
+        a->setShortcut(taste);
         m_dateiAktionen.emplace_back(a, text);
     };
-    dateiAktion("Neue Demo-Datenbank...", [this] { demoDatenbankAnlegen(); });
+    dateiAktion("&Neue Demo-Datenbank...", QKeySequence::New, [this] { demoDatenbankAnlegen(); });
     m_dateiMenü->addSeparator();
-    dateiAktion("Beenden", [this] { close(); });
+    dateiAktion("&Beenden", QKeySequence::Quit, [this] { close(); });
 
     m_befehlsMenü = menuBar()->addMenu(QString());
     vemo0100Modul15a& k = m_komponente;
     m_befehle = {
-        {"Daten empfangen", [this, &k] { nachEinlesen([&k] { k.DatenEmpfangen(); }); }},
-        {"Einlesedaten",
+        {"Daten &empfangen", [this, &k] { nachEinlesen([&k] { k.DatenEmpfangen(); }); }, true,
+         QKeySequence(Qt::CTRL | Qt::Key_R)},
+        {"Einlese&daten",
          [this, &k] {
              k.EinleseDaten();
              if (k.EinlesedatenIDRow().toInt() != 1) // the grid's "Edit results"
                  return;
              k.setEinlesedatenIDRow(0);
              Zertifikatswerte::ergebnisseZeigen(this);
-         }},
-        {"Einlesen aus Datei", [this, &k] { nachEinlesen([&k] { k.EinlesenAusDatei(); }); }},
-        {"Datenlogger", [&k] { k.DatenLogger(); }, false},
-        {"Daten importieren", [&k] { k.DatenImportieren(); }},
-        {"Einstellung ZEMAK 3710", [&k] { k.EinstellungZemak3710(); }},
-        {"Textbreite messen",
-         [this, &k] {
-             const QString t = QInputDialog::getText(this, xText("Textbreite messen"), xText("Text"));
-             qint32 breite = 0;
-             k.vmxTextWidth(t, breite);
-             statusBar()->showMessage(QString("%1: %2").arg(t).arg(breite));
          },
-         false},
+         true, QKeySequence(Qt::CTRL | Qt::Key_D)},
+        {"Einlesen aus Da&tei", [this, &k] { nachEinlesen([&k] { k.EinlesenAusDatei(); }); }, true,
+         QKeySequence::Open},
+        {"Daten &importieren", [&k] { k.DatenImportieren(); }, true, QKeySequence(Qt::CTRL | Qt::Key_I)},
+        {"Einstellung &ZEMAK 3710", [&k] { k.EinstellungZemak3710(); }},
     };
-    for (Befehl& b : m_befehle)
+    // A tool of the developers, who measure texts against the host's widths with it.
+    if (qEnvironmentVariableIsSet("VEMOTRIX_ENTWICKLER"))
+        m_befehle.push_back({"Textbreite messen",
+                             [this, &k] {
+                                 const QString t =
+                                     QInputDialog::getText(this, xText("Textbreite messen"), xText("Text"));
+                                 qint32 breite = 0;
+                                 k.vmxTextWidth(t, breite);
+                                 statusBar()->showMessage(QString("%1: %2").arg(t).arg(breite));
+                             },
+                             false});
+    for (Befehl& b : m_befehle) {
         b.aktion = m_befehlsMenü->addAction(QString(), this, [this, b] { befehl(b); });
+        b.aktion->setShortcut(b.taste);
+    }
 }
 
 void Hauptfenster::beschriften() {
     setWindowTitle("vemotrix - " + m_komponente.PrüfgeräteTypID().toString());
     for (QLabel* l : m_beschriftungen)
         l->setText(xText(l->property("deutsch").toString() + ":"));
-    m_dateiMenü->setTitle(xText("Datei"));
+    m_dateiMenü->setTitle(xText("&Datei"));
     for (auto& [aktion, text] : m_dateiAktionen)
         aktion->setText(xText(text));
-    m_befehlsMenü->setTitle(xText("Messungen"));
+    m_befehlsMenü->setTitle(xText("&Messungen"));
     for (Befehl& b : m_befehle)
         b.aktion->setText(xText(b.text));
     m_übersicht->beschriften();
@@ -276,6 +290,7 @@ void Hauptfenster::spracheSetzen(const QString& sprache) {
     const QString gilt = modul().sprachen.Sprache();
     m_sprache->setCurrentIndex(std::max(0, int(SprachenListe.indexOf(gilt))));
     merken("Sprache", gilt);
+    m_programmsprache.wählen(gilt);
     beschriften();
     m_übersicht->aktualisieren();
 }

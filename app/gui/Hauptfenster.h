@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Programmsprache.h"
+
+#include <QKeySequence>
 #include <QMainWindow>
 #include <functional>
 #include <vector>
@@ -32,6 +35,7 @@ private:
         QString text;
         std::function<void()> ausführen;
         bool brauchtDatenbank = true;
+        QKeySequence taste = {};
         QAction* aktion = nullptr;
     };
 
@@ -67,4 +71,5 @@ private:
     std::vector<Befehl> m_befehle;
     std::vector<std::pair<QAction*, QString>> m_dateiAktionen;
     Uebersicht* m_übersicht;
+    Programmsprache m_programmsprache;
 };

@@ -1,5 +1,6 @@
 #include "Uebersicht.h"
 
+#include "Kontrast.h"
 #include "Reihenanzeige.h"
 #include "Zertifikatswerte.h"
 
@@ -12,6 +13,7 @@
 #include <QSplitter>
 #include <QTableWidget>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 using namespace vemo;
@@ -103,7 +105,49 @@ void Uebersicht::beschriften() {
     m_kopf->setText(xText("Messungen") + " / " + xText("Grenzwerte"));
 }
 
+// The keys from the customer down to this node: they name it again in the tree built anew.
+QList<QVariant> Uebersicht::pfad(const QTreeWidgetItem* knoten) {
+    QList<QVariant> schlüssel;
+    for (; knoten; knoten = knoten->parent())
+        schlüssel.prepend(knoten->data(0, Schlüssel));
+    return schlüssel;
+}
+
+QTreeWidgetItem* Uebersicht::knotenAuf(const QList<QVariant>& pfad) const {
+    QTreeWidgetItem* knoten = nullptr;
+    for (const QVariant& schlüssel : pfad) {
+        const int anzahl = knoten ? knoten->childCount() : m_baum->topLevelItemCount();
+        QTreeWidgetItem* gefunden = nullptr;
+        for (int i = 0; i < anzahl && !gefunden; ++i) {
+            QTreeWidgetItem* kind = knoten ? knoten->child(i) : m_baum->topLevelItem(i);
+            if (kind->data(0, Schlüssel).toString() == schlüssel.toString())
+                gefunden = kind;
+        }
+        if (!gefunden)
+            return nullptr;
+        knoten = gefunden;
+        zweigFüllen(knoten);
+    }
+    return knoten;
+}
+
+// The tree is built anew after every command; what the user had opened and chosen stays so, as
+// far as it still exists.
 void Uebersicht::aktualisieren() {
+    QList<QList<QVariant>> offen;
+    for (QTreeWidgetItemIterator it(m_baum); *it; ++it)
+        if ((*it)->isExpanded())
+            offen << pfad(*it);
+    const QList<QVariant> gewählt = pfad(m_baum->currentItem());
+    neuAufbauen();
+    for (const QList<QVariant>& p : std::as_const(offen))
+        if (QTreeWidgetItem* k = knotenAuf(p))
+            k->setExpanded(true);
+    if (QTreeWidgetItem* k = gewählt.isEmpty() ? nullptr : knotenAuf(gewählt))
+        m_baum->setCurrentItem(k);
+}
+
+void Uebersicht::neuAufbauen() {
     m_baum->clear();
     messungenZeigen(nullptr);
     if (!db().istOffen())
@@ -119,7 +163,7 @@ void Uebersicht::aktualisieren() {
     });
 }
 
-void Uebersicht::zweigFüllen(QTreeWidgetItem* knoten) {
+void Uebersicht::zweigFüllen(QTreeWidgetItem* knoten) const {
     const int ebene = knoten->data(0, Ebene).toInt() + 1;
     if (knoten->childCount() > 0 || ebene >= int(stufen().size()))
         return;
@@ -202,7 +246,8 @@ void Uebersicht::messungenZeigen(QTreeWidgetItem* knoten) {
                 if (!hatGrenzwert(w))
                     continue;
                 auto* grenze = new QTableWidgetItem(z.grenze.value(w));
-                grenze->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
+                grenze->setForeground(
+                    gedämpft(palette().color(QPalette::Text), palette().color(QPalette::Base)));
                 m_messungen->setItem(r, c++, grenze);
             }
         }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QVariant>
 #include <QWidget>
 
 class QTreeWidget;
@@ -18,7 +20,10 @@ public:
     void beschriften();
 
 private:
-    void zweigFüllen(QTreeWidgetItem* knoten);
+    static QList<QVariant> pfad(const QTreeWidgetItem* knoten);
+    QTreeWidgetItem* knotenAuf(const QList<QVariant>& pfad) const;
+    void neuAufbauen();
+    void zweigFüllen(QTreeWidgetItem* knoten) const;
     void messungenZeigen(QTreeWidgetItem* knoten);
 
     QTreeWidget* m_baum;

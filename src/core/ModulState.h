@@ -3,6 +3,7 @@
 #include "core/Laufschluessel.h"
 #include "core/Sprachen.h"
 #include "platform/Fehler.h"
+#include "platform/Fehlertexte.h"
 #include "platform/Zahlformat.h"
 #include "store/Datenbank.h"
 #include "store/Schluessel.h"
@@ -101,9 +102,10 @@ struct ModulState {
     int gezeigteFehler = 0;
 
     // The state of a run that outlives one call: the number locale, the key allocator's counter,
-    // the keys the take-over has reached, what the take-over button runs, the raw port's buffers,
-    // and whether the dump read last was a Multitester's.
+    // the language of error descriptions, the keys the take-over has reached, what the take-over button runs,
+    // the raw port's buffers, and whether the dump read last was a Multitester's.
     zahlformat::Gebietsschema zahlen;
+    fehlertexte::Auswahl fehlertexte;
     Schlüsselvergabe schlüsselvergabe;
     std::optional<Protokollstand> protokollstand; // set while a run counts report numbers on
     Laufschlüssel laufschlüssel;

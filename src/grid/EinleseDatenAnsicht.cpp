@@ -19,6 +19,7 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <numeric>
 
 namespace vemo {
 
@@ -201,14 +202,44 @@ void EinleseDatenAnsicht::gridZeigen() {
     const EinleseGrid& g = m_formular.grid();
     m_abgleich = true;
     m_modell->neuLaden();
-    for (int spalte = 0; spalte < EinleseGrid::Cols; ++spalte) {
-        const int breite = pixel(g.ColWidth(spalte));
-        m_tabelle->setColumnHidden(spalte, breite == 0);
-        if (breite > 0)
-            m_tabelle->setColumnWidth(spalte, breite);
-    }
+    for (int spalte = 0; spalte < EinleseGrid::Cols; ++spalte)
+        m_tabelle->setColumnHidden(spalte, g.ColWidth(spalte) == 0);
+    spaltenVerteilen();
     auswahlZeigen();
     m_abgleich = false;
+}
+
+// Each column as wide as its widest text, and at least as wide as the user left it; what room
+// the grid has beyond that goes to the columns of customer to circuit, which hold the names.
+std::array<int, EinleseGrid::Cols> EinleseDatenAnsicht::natürlicheBreiten() const {
+    std::array<int, EinleseGrid::Cols> breite{};
+    for (int spalte = 0; spalte < EinleseGrid::Cols; ++spalte)
+        if (!m_tabelle->isColumnHidden(spalte))
+            breite[size_t(spalte)] =
+                std::max({pixel(m_formular.grid().ColWidth(spalte)),
+                          static_cast<const QAbstractItemView*>(m_tabelle)->sizeHintForColumn(spalte),
+                          m_tabelle->horizontalHeader()->sectionSizeHint(spalte)});
+    return breite;
+}
+
+void EinleseDatenAnsicht::spaltenVerteilen() {
+    const QScopedValueRollback abgleich(m_abgleich, true);
+    std::array<int, EinleseGrid::Cols> breite = natürlicheBreiten();
+    int namensspalten = 0;
+    for (int spalte = 1; spalte <= 5; ++spalte)
+        namensspalten += m_tabelle->isColumnHidden(spalte) ? 0 : 1;
+    const int platz = m_tabelle->viewport()->width();
+    int rest = platz - std::accumulate(breite.begin(), breite.end(), 0);
+    for (int spalte = 1; spalte <= 5 && rest > 0 && namensspalten > 0; ++spalte) {
+        if (m_tabelle->isColumnHidden(spalte))
+            continue;
+        const int anteil = rest / namensspalten--;
+        breite[size_t(spalte)] += anteil;
+        rest -= anteil;
+    }
+    for (int spalte = 0; spalte < EinleseGrid::Cols; ++spalte)
+        if (breite[size_t(spalte)] > 0)
+            m_tabelle->setColumnWidth(spalte, breite[size_t(spalte)]);
 }
 
 void EinleseDatenAnsicht::auswahlZeigen() {
@@ -245,7 +276,7 @@ void EinleseDatenAnsicht::comboZeigen() {
     // Over the cell, a little inside its edges.
     const QRect zelle =
         m_tabelle->visualRect(m_modell->index(m_formular.editRow() - 1, m_formular.editCol()));
-    const int breite = pixel(m_formular.grid().ColWidth(m_formular.editCol()) - 8);
+    const int breite = m_tabelle->columnWidth(m_formular.editCol()) - pixel(8);
     m_combo->setGeometry(zelle.left() + pixel(30), zelle.top(), std::max(breite, 40),
                          m_combo->sizeHint().height());
     if (!m_combo->isVisible()) {
@@ -267,9 +298,9 @@ void EinleseDatenAnsicht::anpassen() {
                zeilen * m_tabelle->verticalHeader()->defaultSectionSize() +
                m_tabelle->horizontalScrollBar()->sizeHint().height();
     };
-    int breite = rahmen + m_tabelle->verticalScrollBar()->sizeHint().width();
-    for (int spalte = 0; spalte < EinleseGrid::Cols; ++spalte)
-        breite += m_tabelle->columnWidth(spalte);
+    const auto spalten = natürlicheBreiten();
+    const int breite = rahmen + m_tabelle->verticalScrollBar()->sizeHint().width() +
+                       std::accumulate(spalten.begin(), spalten.end(), 0);
     m_tabelle->setMinimumSize(breite, höheFür(std::clamp(m_modell->rowCount(), 4, SichtbareZeilen)));
     QSize größe = sizeHint();
     m_tabelle->setMinimumSize(0, höheFür(4));
@@ -303,8 +334,11 @@ void EinleseDatenAnsicht::auswahlGeaendert() {
 bool EinleseDatenAnsicht::eventFilter(QObject* objekt, QEvent* ereignis) {
     if (objekt == m_combo || objekt == m_combo->lineEdit())
         return comboEreignis(ereignis) || QDialog::eventFilter(objekt, ereignis);
-    if (objekt == m_tabelle->viewport())
+    if (objekt == m_tabelle->viewport()) {
+        if (ereignis->type() == QEvent::Resize)
+            spaltenVerteilen();
         return mausEreignis(ereignis) || QDialog::eventFilter(objekt, ereignis);
+    }
     if (objekt == m_tabelle)
         return gridEreignis(ereignis) || QDialog::eventFilter(objekt, ereignis);
     return QDialog::eventFilter(objekt, ereignis);

@@ -3,6 +3,7 @@
 #include "grid/EinleseDatenController.h"
 
 #include <QDialog>
+#include <array>
 
 class QComboBox;
 class QLabel;
@@ -38,6 +39,8 @@ private:
     void gridZeigen();
     void auswahlZeigen();
     void comboZeigen();
+    std::array<int, EinleseGrid::Cols> natürlicheBreiten() const;
+    void spaltenVerteilen();
     void anpassen();
     void auswahlGeaendert();
     bool gridEreignis(QEvent* e);

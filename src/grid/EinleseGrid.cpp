@@ -56,6 +56,10 @@ void EinleseGrid::setzen(int zeile, int spalte, const QString& text, Zellzustand
     z.farbe = d.farbe;
 }
 
+bool EinleseGrid::hatMesszeitpunkt() const {
+    return std::any_of(m_zeilen.begin(), m_zeilen.end(), [](const auto& z) { return !z[6].text.isEmpty(); });
+}
+
 void EinleseGrid::setFesterHintergrund(int zeile, int spalte) {
     veränderlich(zeile, spalte).festerHintergrund = true;
 }

@@ -60,6 +60,8 @@ public:
     // Text, font and colour of one of the three states.
     void setzen(int zeile, int spalte, const QString& text, Zellzustand zustand);
     void setFesterHintergrund(int zeile, int spalte);
+    // Whether any read-in row shows its moment of measurement (column 6).
+    bool hatMesszeitpunkt() const;
 
     int ColWidth(int spalte) const;
     void setColWidth(int spalte, int twips);

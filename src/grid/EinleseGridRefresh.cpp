@@ -45,8 +45,9 @@ void EinleseDatenController::EinleseGridRefresh(long ersteZeile, long letzteZeil
         einlese.Close();
         abfrage.Close();
 
-        // Without any date the column of the moment isn't seen at all.
-        m_grid.setColWidth(6, durchlauf.datumGesehen() ? gespeicherteBreite(6) : 0);
+        // Without any date the column of the moment isn't seen at all. The rows outside a refreshed
+        // range keep theirs: an assignment to a row without a date does not hide the others'.
+        m_grid.setColWidth(6, m_grid.hatMesszeitpunkt() ? gespeicherteBreite(6) : 0);
         m_knöpfe.übernehmen = übernehmenMöglich();
     } catch (const Fehler&) {
         // The refresh ends with the grid as it stands and shows no message of its own.

@@ -66,7 +66,6 @@ bool GridDurchlauf::durchlaufen(Recordset& einlese, Recordset& abfrage, long ers
     m_geräteZähler = 0;
     m_messungZähler = 0;
     m_geändert = false;
-    m_datumGesehen = false;
 
     einlese.setAbsolutePosition(ersteZeile - 1);
     abfrage.FindFirst(kriterium(einlese));
@@ -191,11 +190,13 @@ QString GridDurchlauf::datumDerNeuenPrüfung(const Recordset& einlese) const {
 void GridDurchlauf::messzeitpunkt(const Recordset& einlese, int zeile) {
     const QString datum = einlese.Text("Datum");
     const QString uhrzeit = einlese.Text("Uhrzeit");
-    if (ohneRandblanks(datum + " " + uhrzeit).isEmpty())
+    // A row without a moment shows none, not that of the row that stood there before a deletion.
+    if (ohneRandblanks(datum + " " + uhrzeit).isEmpty()) {
+        m_grid.setTextMatrix(zeile, 6, QString());
         return;
+    }
     m_grid.setTextMatrix(zeile, 6, datum + " " + uhrzeit);
     m_grid.setFesterHintergrund(zeile, 6);
-    m_datumGesehen = true;
 }
 
 } // namespace vemo

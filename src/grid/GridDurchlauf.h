@@ -21,7 +21,6 @@ public:
     // Rows counted from 1. True when a key was written: the query must then be read anew and the
     // pass repeated.
     bool durchlaufen(Recordset& einlese, Recordset& abfrage, long ersteZeile, long letzteZeile);
-    bool datumGesehen() const { return m_datumGesehen; }
 
 private:
     // The query row the read-in row is judged against; Null everywhere when the query has none.
@@ -60,7 +59,6 @@ private:
     int m_geräteZähler = 0;
     int m_messungZähler = 0;
     bool m_geändert = false;
-    bool m_datumGesehen = false;
     // Today as a new inspection shows it, taken once a pass: asking the clock for the local date
     // asks the system for its time zone.
     const QString m_heute;

@@ -1,6 +1,7 @@
 #include "grid/SammelzuordnungAnsicht.h"
 
 #include "grid/ZuordnenDialog.h"
+#include "platform/Dialogtasten.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -43,6 +44,7 @@ SammelzuordnungAnsicht::SammelzuordnungAnsicht(frmZuordnen& form, QWidget* elter
     connect(m_anlage, &QComboBox::activated, &form, &frmZuordnen::anlageKlick);
     connect(m_prüfung, &QComboBox::activated, &form, &frmZuordnen::prüfungKlick);
     connect(m_weiter, &QPushButton::clicked, &form, &frmZuordnen::weiterKlick);
+    dialogtastenSetzen(*this, m_weiter, nullptr);
     connect(&form, &frmZuordnen::aktualisiert, this, &SammelzuordnungAnsicht::anzeigen);
     anzeigen();
 }

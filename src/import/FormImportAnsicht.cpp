@@ -1,6 +1,7 @@
 #include "import/FormImportAnsicht.h"
 
 #include "import/FormImport.h"
+#include "platform/Dialogtasten.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -55,6 +56,7 @@ FormImportAnsicht::FormImportAnsicht(FormImport& form, QWidget* eltern)
     connect(m_ändern, &QPushButton::clicked, &form, &FormImport::ändernKlick);
     connect(m_konvertieren, &QPushButton::clicked, &form, &FormImport::konvertierenKlick);
     connect(m_abbrechen, &QPushButton::clicked, &form, &FormImport::abbrechenKlick);
+    dialogtastenSetzen(*this, m_konvertieren, m_abbrechen);
     connect(&form, &FormImport::aktualisiert, this, &FormImportAnsicht::anzeigen);
     anzeigen();
 }

@@ -40,7 +40,8 @@ SqliteQuelle::SqliteQuelle(const QString& pfad, const QString& tabelle) {
     const bool vorhanden = sqlite3_step(name) == SQLITE_ROW;
     sqlite3_finalize(name);
     if (!vorhanden)
-        scheitern(quellfehler::TabelleNichtGefunden, quellfehler::tabelleFehlt(tabelle).beschreibung());
+        scheitern(quellfehler::TabelleNichtGefunden,
+                  quellfehler::tabelleFehlt(tabelle).deutscheBeschreibung());
     sqlite3_stmt* zählung = vorbereiten("SELECT Count(*) FROM " + bezeichner(tabelle));
     if (sqlite3_step(zählung) == SQLITE_ROW)
         m_anzahl = long(sqlite3_column_int64(zählung, 0));

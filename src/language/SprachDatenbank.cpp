@@ -1,6 +1,7 @@
 #include "language/SprachDatenbank.h"
 
 #include "core/ModulState.h"
+#include "platform/Fehlertexte.h"
 #include "platform/Version.h"
 #include "store/Datenbank.h"
 #include "store/Schema.h"
@@ -32,6 +33,8 @@ void spracheEinstellen(const QString& sprache) {
         sprachen.spracheWählen(sprache);
     else
         sprachen.setSprache(sprache);
+    const bool englisch = sprachen.Sprache().startsWith("English");
+    fehlertexte::wählen(englisch ? fehlertexte::Sprache::Englisch : fehlertexte::Sprache::Deutsch);
 }
 
 } // namespace vemo

@@ -1,6 +1,7 @@
 #include "links/KontalexAnsicht.h"
 
 #include "links/Kontalex.h"
+#include "platform/Dialogtasten.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -73,6 +74,7 @@ KontalexAnsicht::KontalexAnsicht(Kontalex& dialog, QWidget* eltern)
     layout->addWidget(m_abbrechen);
 
     connect(m_abbrechen, &QPushButton::clicked, &dialog, &Kontalex::abbrechen);
+    dialogtastenSetzen(*this, nullptr, m_abbrechen);
     connect(&dialog, &Kontalex::aktualisiert, this, &KontalexAnsicht::anzeigen);
     anzeigen();
 }

@@ -1,6 +1,7 @@
 #include "links/SorelinAnsicht.h"
 
 #include "links/SorelinUebertragung.h"
+#include "platform/Dialogtasten.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -65,6 +66,7 @@ SorelinAnsicht::SorelinAnsicht(frmSorelin& form, QWidget* eltern)
     resize(420, 150);
 
     connect(m_abbrechen, &QPushButton::clicked, &form, &frmSorelin::abbrechen);
+    dialogtastenSetzen(*this, nullptr, m_abbrechen);
     connect(&form, &frmSorelin::aktualisiert, this, &SorelinAnsicht::anzeigen);
     anzeigen();
 }

@@ -1,6 +1,7 @@
 #include "links/ZemakAnsicht.h"
 
 #include "links/ZemakDialog.h"
+#include "platform/Dialogtasten.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -85,6 +86,7 @@ ZemakAnsicht::ZemakAnsicht(frmZEMAK& form, QWidget* eltern)
     resize(480, 250);
 
     connect(abbrechen, &QPushButton::clicked, &form, &frmZEMAK::abbrechen);
+    dialogtastenSetzen(*this, nullptr, abbrechen);
     connect(&form, &frmZEMAK::aktualisiert, this, &ZemakAnsicht::anzeigen);
     anzeigen();
 }

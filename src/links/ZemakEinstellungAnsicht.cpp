@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "links/ZemakEinstellung.h"
+#include "platform/Dialogtasten.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -55,6 +56,7 @@ ZemakEinstellungAnsicht::ZemakEinstellungAnsicht(frmSettingZEMAK3710& form, QWid
 
     connect(m_löschen, &QPushButton::clicked, &form, &frmSettingZEMAK3710::ComMesLöschen);
     connect(schließen, &QPushButton::clicked, &form, &frmSettingZEMAK3710::ComSchließen);
+    dialogtastenSetzen(*this, nullptr, schließen);
     connect(&form, &frmSettingZEMAK3710::aktualisiert, this, &ZemakEinstellungAnsicht::anzeigen);
     connect(&form, &frmSettingZEMAK3710::kennungUebernommen, this,
             &ZemakEinstellungAnsicht::kennungMarkieren);

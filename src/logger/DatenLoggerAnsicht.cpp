@@ -2,6 +2,7 @@
 
 #include "core/ModulState.h"
 #include "logger/DatenLogger.h"
+#include "platform/Dialogtasten.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -9,12 +10,20 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace vemo {
 namespace {
 
 const char* const Feldnamen[DatenLogger::Felder] = {"Tag", "Monat", "Jahr", "Stunde", "Minute", "Sekunde"};
+
+bool dialogtaste(int taste) {
+    for (const int t : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape})
+        if (taste == t)
+            return true;
+    return false;
+}
 
 } // namespace
 
@@ -48,6 +57,7 @@ DatenLoggerAnsicht::DatenLoggerAnsicht(DatenLogger& dialog, QWidget* eltern)
     abbrechen->setObjectName("Command2");
     connect(ok, &QPushButton::clicked, &dialog, &DatenLogger::command1);
     connect(abbrechen, &QPushButton::clicked, &dialog, &DatenLogger::command2);
+    dialogtastenSetzen(*this, ok, nullptr); // reject() is the cancel button already
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label1);
     layout->addLayout(raster);
@@ -68,15 +78,21 @@ bool DatenLoggerAnsicht::eventFilter(QObject* objekt, QEvent* ereignis) {
         return QDialog::eventFilter(objekt, ereignis);
     if (ereignis->type() == QEvent::KeyPress) {
         const auto* taste = static_cast<QKeyEvent*>(ereignis);
+        // Tab and the arrows move between the fields, Enter confirms and Escape cancels, as in any
+        // dialog; of the keys that type, only digits and the backspace reach a field.
+        if (dialogtaste(taste->key()))
+            return false;
         const QString text = taste->text();
         const int zeichen = taste->key() == Qt::Key_Backspace ? DatenLogger::Rückschritt
                             : text.isEmpty()                  ? -1
                                                               : text.at(0).unicode();
-        // Tab and the arrows move between the fields as in any dialog.
         if (zeichen < 0)
             return false;
         return !DatenLogger::tasteErlaubt(zeichen);
     }
+    // A field entered holds a number already (the start proposed): typing replaces it.
+    if (ereignis->type() == QEvent::FocusIn)
+        QTimer::singleShot(0, m_felder[i], &QLineEdit::selectAll);
     if (ereignis->type() == QEvent::FocusOut)
         m_dialog->feldVerlassen(i);
     return QDialog::eventFilter(objekt, ereignis);

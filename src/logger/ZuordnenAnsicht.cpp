@@ -4,6 +4,7 @@
 #include "core/Worttabelle.h"
 #include "logger/Reihendiagramm.h"
 #include "logger/Zuordnen.h"
+#include "platform/Dialogtasten.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -51,6 +52,7 @@ ZuordnenAnsicht::ZuordnenAnsicht(Zuordnen& pool, QWidget* eltern) : QDialog(elte
     schließen->setObjectName("Command4");
     connect(speichern, &QPushButton::clicked, &pool, &Zuordnen::command5);
     connect(schließen, &QPushButton::clicked, &pool, &Zuordnen::command4);
+    dialogtastenSetzen(*this, speichern, nullptr); // reject() is the cancel button already
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_zuordnung);
     layout->addWidget(m_diagrammteil);

@@ -15,7 +15,7 @@ Fehler mit(int nummer, const QString& detail) {
         {ParameterNichtGesetzt, "Die Anschlussparameter konnten nicht gesetzt werden"},
     };
     const auto it = eigene.find(nummer);
-    const QString beschreibung = it != eigene.end() ? it->second : fehler::mit(nummer).beschreibung();
+    const QString beschreibung = it != eigene.end() ? it->second : fehler::mit(nummer).deutscheBeschreibung();
     return Fehler(nummer, detail.isEmpty() ? beschreibung : beschreibung + " (" + detail + ")");
 }
 } // namespace portfehler

@@ -1,14 +1,21 @@
 #include "platform/Fehler.h"
 
+#include "platform/Fehlertexte.h"
+
 #include <map>
 
 namespace vemo {
 
 Fehler::Fehler(int nummer, QString beschreibung)
-    : m_nummer(nummer), m_beschreibung(std::move(beschreibung)), m_what(meldung().toUtf8()) {}
+    : m_nummer(nummer), m_beschreibung(std::move(beschreibung)),
+      m_what((QString::number(m_nummer) + " " + m_beschreibung).toUtf8()) {}
+
+QString Fehler::beschreibung() const {
+    return fehlertexte::inGewählterSprache(m_nummer, m_beschreibung);
+}
 
 QString Fehler::meldung() const {
-    return QString::number(m_nummer) + " " + m_beschreibung;
+    return QString::number(m_nummer) + " " + beschreibung();
 }
 
 namespace fehler {
@@ -53,7 +60,7 @@ Fehler mit(int nummer) {
 
 Fehler mit(int nummer, const QString& detail) {
     const Fehler basis = mit(nummer);
-    return Fehler(nummer, basis.beschreibung() + " (" + detail + ")");
+    return Fehler(nummer, basis.deutscheBeschreibung() + " (" + detail + ")");
 }
 } // namespace fehler
 

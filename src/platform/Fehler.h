@@ -14,7 +14,10 @@ public:
     Fehler(int nummer, QString beschreibung);
 
     int nummer() const { return m_nummer; }
-    const QString& beschreibung() const { return m_beschreibung; }
+    // The description in the language the user chose (see Fehlertexte).
+    QString beschreibung() const;
+    // The description as it was raised, for building other errors from it.
+    const QString& deutscheBeschreibung() const { return m_beschreibung; }
     // The text of the standard message: number, one blank, description.
     QString meldung() const;
     const char* what() const noexcept override { return m_what.constData(); }

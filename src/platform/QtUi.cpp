@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -58,6 +59,20 @@ QString dialogFilter(const QString& filter) {
     return labels.join(";;");
 }
 
+// A message box is as wide as its text; a longer title would be cut by the window frame. The
+// box is widened to the title, with room for the frame's buttons.
+void titelPlatzGeben(QMessageBox& box) {
+    constexpr int RahmenKnöpfe = 120;
+    QFont rahmenschrift = QApplication::font(); // frames commonly draw the title in bold
+    rahmenschrift.setBold(true);
+    const int titel = QFontMetrics(rahmenschrift).horizontalAdvance(box.windowTitle());
+    auto* raster = qobject_cast<QGridLayout*>(box.layout());
+    if (!raster)
+        return;
+    raster->addItem(new QSpacerItem(titel + RahmenKnöpfe, 0, QSizePolicy::Minimum, QSizePolicy::Fixed),
+                    raster->rowCount(), 0, 1, raster->columnCount());
+}
+
 } // namespace
 
 int QtUi::MsgBox(const QString& text, const QString& titel, const MsgStil& stil) {
@@ -66,6 +81,7 @@ int QtUi::MsgBox(const QString& text, const QString& titel, const MsgStil& stil)
     for (int a : antworten)
         box.addButton(knopf(a));
     box.setDefaultButton(knopf(antworten.value(stil.standardKnopf - 1, antworten.first())));
+    titelPlatzGeben(box);
     const int gewählt = box.exec();
     for (int a : antworten)
         if (knopf(a) == gewählt)

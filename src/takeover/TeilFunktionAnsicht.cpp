@@ -1,5 +1,6 @@
 #include "takeover/TeilFunktionAnsicht.h"
 
+#include "platform/Dialogtasten.h"
 #include "takeover/TeilFunktionDialog.h"
 
 #include <QComboBox>
@@ -26,6 +27,7 @@ TeilFunktionAnsicht::TeilFunktionAnsicht(frmTeilFunktion& dialog, QWidget* elter
     connect(combo1, &QComboBox::currentTextChanged, this,
             [&dialog](const QString& spalte) { dialog.setCombo1Text(spalte); });
     connect(command1, &QPushButton::clicked, this, [&dialog] { dialog.Command1(); });
+    dialogtastenSetzen(*this, command1, nullptr);
 }
 
 } // namespace vemo

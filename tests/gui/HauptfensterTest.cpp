@@ -26,7 +26,7 @@ class HauptfensterTest : public Testumgebung {
 protected:
     static void auslösen(const QWidget& fenster, const QString& text) {
         for (QAction* a : fenster.findChildren<QAction*>())
-            if (a->text() == text)
+            if (QString(a->text()).remove('&') == text)
                 a->trigger();
     }
 };

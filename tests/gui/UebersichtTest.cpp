@@ -1,4 +1,5 @@
 #include "Uebersicht.h"
+#include "Kontrast.h"
 
 #include "grid/EinleseDatenController.h"
 #include "host/DateiEinlesen.h"
@@ -76,6 +77,21 @@ TEST_F(UebersichtTest, TheInsulationLimitStandsBesideEachPairOfConductors) {
               (QStringList{"RISO_LPE: >200", "RISO_LPE Grenzwert: >1", "UISO: 1010"}));
     EXPECT_EQ(zeigen(ü, kunde + QStringList{"0003"}),
               (QStringList{"RISO: 50,0", "RISO Grenzwert: >0,5", "UISO: 275"}));
+
+    // The limits stand second, yet readable on the table's background.
+    const auto* tabelle = ü.findChild<QTableWidget*>();
+    const QColor grenze = tabelle->item(0, 1)->foreground().color();
+    EXPECT_GE(kontrast(grenze, tabelle->palette().color(QPalette::Base)), 4.5);
+    EXPECT_NE(grenze, tabelle->palette().color(QPalette::Text));
+
+    // After a command the tree is built anew, and stays opened and chosen where the user left it.
+    auto* baum = ü.findChild<QTreeWidget*>();
+    const QString gewählt = baum->currentItem()->text(0);
+    ü.aktualisieren();
+    ASSERT_TRUE(baum->currentItem());
+    EXPECT_EQ(baum->currentItem()->text(0), gewählt);
+    EXPECT_TRUE(baum->currentItem()->parent()->isExpanded());
+    EXPECT_EQ(tabelle->rowCount(), 1);
 }
 
 } // namespace

@@ -186,7 +186,7 @@ TEST_F(ZertifikatswerteTest, EditResultsOpensTheCertificateOfTheReadInRows) {
     };
     QAction* einlesedaten = nullptr;
     for (QAction* a : fenster.findChildren<QAction*>())
-        if (a->text() == xText("Einlesedaten"))
+        if (QString(a->text()).remove('&') == xText("Einlesedaten"))
             einlesedaten = a;
     ASSERT_NE(einlesedaten, nullptr);
     einlesedaten->trigger();
