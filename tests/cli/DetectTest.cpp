@@ -1,4 +1,4 @@
-#include "links/LinkHilfen.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include <QProcess>

@@ -4,7 +4,7 @@
 #include "ansichten/Ansichten.h"
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
-#include "links/LinkHilfen.h"
+#include "support/Leitung.h"
 #include "platform/Version.h"
 #include "support/Testumgebung.h"
 
