@@ -98,6 +98,10 @@ TEST_P(DialektTest, StatementsOfTheComponentRun) {
     EXPECT_FALSE(
         wert("SELECT [FIT MIN] FROM 0100_GrenzwertRCD WHERE Faktor = 1/2 AND Selektive = 0").isEmpty());
     EXPECT_EQ(wert("SELECT Left(Name, 3) & Right(Name, 2) FROM Kunde WHERE KundeID = 2"), "Wohng");
+    // Replace inside a text column, as the earth resistance is sorted by its number.
+    EXPECT_EQ(
+        wert("SELECT Val(Replace(Mid(ProtokollNr, 7), '7', '3,5')) FROM 0100_Prüfung WHERE PrüfungID = 2"),
+        "3");
     // Like with the dialect's wildcard.
     EXPECT_EQ(wert("SELECT Count(*) FROM Kunde WHERE Name Like \"*e*\""), "2");
 

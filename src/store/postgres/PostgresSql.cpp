@@ -217,8 +217,12 @@ QString fürPostgres(const QString& sql) {
     // The case-blind collation does not match patterns: Like compares without regard to case
     // under the database's own.
     static const QRegularExpression muster(R"(\blike(\s+(?:'(?:[^']|'')*'|\$\d+)))");
-    return nullsWieSqlite(
-        umschreiben(sql).remove(sortierfolge).replace(muster, "ilike\\1 collate \"default\""));
+    // Nor does it search inside a text: Replace searches under the database's own.
+    static const QRegularExpression ersetzen(R"(\breplace\s*\()");
+    return nullsWieSqlite(umschreiben(sql)
+                              .remove(sortierfolge)
+                              .replace(muster, "ilike\\1 collate \"default\"")
+                              .replace(ersetzen, "vemo_ersetzen("));
 }
 
 QStringList skriptFürPostgres(const QString& skript) {
@@ -258,6 +262,8 @@ create or replace function vbtext(z double precision) returns text language sql 
 create or replace function val(t text) returns double precision language sql immutable strict as
   $$ select coalesce(substring(replace(ltrim(t collate "default"), ' ', '')
                              from '^[+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)')::double precision, 0) $$;
+create or replace function vemo_ersetzen(t text, was text, durch text) returns text language sql immutable as
+  $$ select replace(t collate "default", was, durch) $$;
 create or replace function mid(t text, von integer) returns text language sql immutable as $$ select substr(t, von) $$;
 create or replace function mid(t text, von integer, anzahl integer) returns text language sql immutable as
   $$ select substr(t, von, anzahl) $$;
