@@ -154,6 +154,8 @@ INSERT INTO Sprache (TextID, "English (United Kingdom)") VALUES
   ('Gerätetyp', 'Instrument type'),
   ('Sicherungsverzeichnis', 'Backup folder'),
   ('Arbeitsordner', 'Work folder'),
+  ('Suchen', 'Search'),
+  ('Keine serielle Schnittstelle gefunden.', 'No serial port found.'),
   ('Datei', 'File'),
   ('Beenden', 'Exit'),
   ('Daten empfangen', 'Receive data'),

@@ -113,7 +113,6 @@ QWidget* Hauptfenster::eigenschaftenBauen() {
     connect(m_backup, &QLineEdit::editingFinished, this, &Hauptfenster::eigenschaftenÜbernehmen);
     zeile("Sicherungsverzeichnis", m_backup, ordnerWahl(m_backup, "Sicherungsverzeichnis"));
     m_arbeitsordner = new QLineEdit;
-    m_arbeitsordner->setPlaceholderText(QFileInfo(m_einstellungen.ordner()).absoluteFilePath());
     connect(m_arbeitsordner, &QLineEdit::editingFinished, this, &Hauptfenster::arbeitsordnerSetzen);
     zeile("Arbeitsordner", m_arbeitsordner, ordnerWahl(m_arbeitsordner, "Arbeitsordner"));
     return rahmen;
@@ -198,6 +197,7 @@ void Hauptfenster::beschriften() {
     m_befehlsMenü->setTitle(xText("&Messungen"));
     for (Befehl& b : m_befehle)
         b.aktion->setText(xText(b.text));
+    m_port->beschriften();
     m_übersicht->beschriften();
 }
 
@@ -268,6 +268,8 @@ bool Hauptfenster::datenbankSetzen(const QString& pfad) {
         return false;
     }
     m_datenbank->setText(pfad);
+    // Left empty, the field shows the folder the working files go to without one.
+    m_arbeitsordner->setPlaceholderText(modul().Datenbankverzeichnis);
     merken("Datenbank", pfad);
     if (m_backup->text().isEmpty()) {
         m_backup->setText(modul().Datenbankverzeichnis);

@@ -1,6 +1,7 @@
 #include "Portauswahl.h"
 
 #include "core/CommPortAuswahl.h"
+#include "core/ModulState.h"
 #include "links/Geraetesuche.h"
 
 #include <QApplication>
@@ -13,19 +14,19 @@
 
 using namespace vemo;
 
-Portauswahl::Portauswahl(QWidget* parent) : QWidget(parent), m_liste(new QComboBox) {
+Portauswahl::Portauswahl(QWidget* parent)
+    : QWidget(parent), m_liste(new QComboBox), m_suchen(new QPushButton("Suchen")) {
     m_liste->setEditable(true);
     m_liste->setInsertPolicy(QComboBox::NoInsert);
     m_liste->setToolTip("1 = COM1 = /dev/ttyS0; a device path such as /dev/pts/3 is used as it is");
-    auto* suchen = new QPushButton("Suchen");
-    suchen->setObjectName("PortSuchen");
+    m_suchen->setObjectName("PortSuchen");
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_liste, 1);
-    layout->addWidget(suchen);
+    layout->addWidget(m_suchen);
     connect(m_liste, &QComboBox::activated, this, &Portauswahl::gewählt);
     connect(m_liste->lineEdit(), &QLineEdit::editingFinished, this, &Portauswahl::portGesetzt);
-    connect(suchen, &QPushButton::clicked, this, &Portauswahl::suchen);
+    connect(m_suchen, &QPushButton::clicked, this, &Portauswahl::suchen);
     anbieten(schnittstellen());
 }
 
@@ -80,6 +81,11 @@ void Portauswahl::suchen() {
         emit instrumentGefunden(erster->typ);
         emit portGesetzt();
     }
-    QMessageBox::information(this, "Suchen",
-                             zeilen.isEmpty() ? "Keine serielle Schnittstelle gefunden." : zeilen.join('\n'));
+    QMessageBox::information(this, xText("Suchen"),
+                             zeilen.isEmpty() ? xText("Keine serielle Schnittstelle gefunden.")
+                                              : zeilen.join('\n'));
+}
+
+void Portauswahl::beschriften() {
+    m_suchen->setText(xText("Suchen"));
 }

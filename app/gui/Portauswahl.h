@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QComboBox;
+class QPushButton;
 
 // The port field of the window program: a list of the computer's serial ports, each shown with its
 // description and USB identity, in which a port number or any device path may be typed as well;
@@ -19,6 +20,8 @@ public:
     void setText(const QString& text);
     // Offers these ports in the list; what the field holds stays, typed or chosen.
     void anbieten(const QList<vemo::Schnittstelle>& liste);
+    // The button's text in the program's language.
+    void beschriften();
 
 signals: // without umlauts: the meta-object compiler reads none
     // The user has chosen a port from the list or typed one.
@@ -32,4 +35,5 @@ private:
     void suchen();
 
     QComboBox* m_liste;
+    QPushButton* m_suchen;
 };
