@@ -25,20 +25,10 @@ protected:
     void SetUp() override {
         GridUmgebung::SetUp();
         gerät(1, "0100-Corvex");
-        zeile({.messungID = 1,
-               .datum = "14.06.2022",
-               .uhrzeit = "09:30:00",
-               .kundeID = 1,
-               .anlageID = 1,
-               .prüfungID = 1,
-               .verteilerID = 1,
-               .stromkreisID = 1});
-        zeile({.messungID = 2,
-               .kundeNr = "12",
-               .anlageNr = "007",
-               .verteilerNr = "0002",
-               .stromkreisNr = "0003"});
-        zeile({.messungID = 3, .kundeNr = "99", .datum = "15.06.2022", .uhrzeit = "11:00:00"});
+        eingelesen("MessungID=1, Datum=14.06.2022, Uhrzeit=09:30:00, KundeID=1, AnlageID=1, PrüfungID=1, "
+                   "VerteilerID=1, StromkreisID=1");
+        eingelesen("MessungID=2, KundeNr=12, AnlageNr=007, VerteilerNr=0002, StromkreisNr=0003");
+        eingelesen("MessungID=3, KundeNr=99, Datum=15.06.2022, Uhrzeit=11:00:00");
         m_formular = formular();
         m_ansicht = std::make_unique<EinleseDatenAnsicht>(*m_formular);
         m_formular->geöffnet();

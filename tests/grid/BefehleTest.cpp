@@ -16,10 +16,10 @@ protected:
     void SetUp() override {
         GridUmgebung::SetUp();
         gerät(1, "0100-Corvex");
-        zeile({.messungID = 1, .datum = "14.06.2022", .uhrzeit = "09:30:00", .kundeID = 1, .anlageID = 1});
-        zeile({.messungID = 2, .kundeNr = "12", .anlageNr = "007"});
-        zeile({.messungID = 3, .kundeNr = "99"});
-        zeile({.messungID = 4, .kundeID = 3, .anlageID = 4});
+        eingelesen("MessungID=1, Datum=14.06.2022, Uhrzeit=09:30:00, KundeID=1, AnlageID=1");
+        eingelesen("MessungID=2, KundeNr=12, AnlageNr=007");
+        eingelesen("MessungID=3, KundeNr=99");
+        eingelesen("MessungID=4, KundeID=3, AnlageID=4");
     }
 
     QString ausgabe(bool json) {

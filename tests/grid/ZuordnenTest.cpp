@@ -19,15 +19,16 @@ protected:
         GridUmgebung::SetUp();
         gerät(1, "0100-Corvex");
         gerät(2, "0100-Varitron");
-        zeile({.messungID = 1, .geräteID = 1, .anlageNr = "001", .verteilerNr = "1", .stromkreisNr = "1"});
+        eingelesen("MessungID=1, GeräteID=1, AnlageNr=001, VerteilerNr=1, StromkreisNr=1");
     }
 
     // Rows of the newest device with the given plant numbers.
     void neuesteZeilen(const QStringList& anlageNummern) {
         int id = 10;
         for (const QString& nr : anlageNummern)
-            zeile(
-                {.messungID = id++, .geräteID = 2, .anlageNr = nr, .verteilerNr = "1", .stromkreisNr = "1"});
+            eingelesen(QString("MessungID=%1, GeräteID=2, AnlageNr=%2, VerteilerNr=1, StromkreisNr=1")
+                           .arg(id++)
+                           .arg(nr));
     }
 
     static int kundeIndex(const frmZuordnen& f, int kundeID) {
