@@ -222,7 +222,7 @@ TEST_F(HostTest, WorkingFilesLieInTheWorkplacesFolder) {
     EXPECT_GT(anzahl("0100_EinleseDaten"), 0);
     EXPECT_TRUE(QFileInfo::exists(pfad("platz/") + datei::Ruvo));
     EXPECT_FALSE(QFileInfo::exists(pfad(datei::Ruvo)));
-    EXPECT_EQ(lesen(pfad("platz/Ruvo.MNU")), "eigene Wörter\r\n");
+    EXPECT_EQ(test::inhalt(pfad("platz/Ruvo.MNU")), "eigene Wörter\r\n");
     EXPECT_TRUE(QFileInfo::exists(pfad("platz/Ruvo.MUL")));
 
     m_settings.ordnerPfad = pfad("einstellungen");
