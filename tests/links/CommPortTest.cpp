@@ -1,3 +1,4 @@
+#include "support/Fehlernummer.h"
 #include "support/Testumgebung.h"
 
 #include "PtyLeitung.h"
@@ -13,15 +14,6 @@ namespace vemo::test {
 namespace {
 
 class CommPortTest : public Testumgebung {};
-
-int fehlernummer(const std::function<void()>& aufruf) {
-    try {
-        aufruf();
-    } catch (const Fehler& f) {
-        return f.nummer();
-    }
-    return 0;
-}
 
 // Lets the event loop run until something has come or a second has passed.
 QByteArray eingangAbwarten(CommPort& port) {
