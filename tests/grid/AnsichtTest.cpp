@@ -196,8 +196,7 @@ TEST_F(AnsichtTest, TheContextMenuAndTheButtonDeleteTheRows) {
               xText("Anzahl der Markiertenzeilen") + " 3 " + xText("von") + " 3");
     m_ui.antworten = {antwort::Ja};
     QTest::mouseClick(kind<QPushButton>("ComLoeschen"), Qt::LeftButton);
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
-    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 0);
+    EXPECT_EQ(anzahlen("0100_EinleseDaten|0100_EinleseGeräteDaten"), "0|0");
     EXPECT_EQ(tabelle()->model()->rowCount(), 0);
     EXPECT_FALSE(kind<QPushButton>("ComLoeschen")->isEnabled());
     EXPECT_FALSE(kind<QPushButton>("Uebernehmen")->isEnabled());
