@@ -18,7 +18,7 @@ protected:
     void SetUp() override {
         GridUmgebung::SetUp();
         gerät(1, "0100-Corvex");
-        zeile({.messungID = 1, .anlageNr = "001"});
+        eingelesen("MessungID=1, AnlageNr=001");
         m_form = std::make_unique<frmZuordnen>();
         m_ansicht = std::make_unique<SammelzuordnungAnsicht>(*m_form, nullptr);
         m_ansicht->show();

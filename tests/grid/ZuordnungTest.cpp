@@ -33,12 +33,8 @@ int eintrag(const EinleseDatenController& f, const QString& text) {
 TEST_F(ZuordnungTest, ACustomerForSeveralRowsClearsTheirLowerKeys) {
     gerät(1, "0100-Corvex");
     for (int id = 1; id <= 4; ++id)
-        zeile({.messungID = id,
-               .kundeID = 1,
-               .anlageID = 1,
-               .prüfungID = 1,
-               .verteilerID = 1,
-               .stromkreisID = 1});
+        eingelesen("MessungID=" + QString::number(id) +
+                   ", KundeID=1, AnlageID=1, PrüfungID=1, VerteilerID=1, StromkreisID=1");
     auto f = formular();
     f->gridAuswahl({1, 1, 3, 1});
     doppelklick(*f, 2, 1);
@@ -54,25 +50,21 @@ TEST_F(ZuordnungTest, ACustomerForSeveralRowsClearsTheirLowerKeys) {
 
     f->comboKlick(eintrag(*f, "Wohnbau Nordhang"));
     EXPECT_FALSE(f->combo().sichtbar);
-    for (int id = 1; id <= 3; ++id) {
-        EXPECT_EQ(feld(id, "KundeID"), "2");
-        for (const char* unten : {"AnlageID", "PrüfungID", "VerteilerID", "StromkreisID"})
-            EXPECT_EQ(feld(id, unten), "0") << id << unten;
-    }
-    EXPECT_EQ(feld(4, "KundeID"), "1");
-    EXPECT_EQ(feld(4, "StromkreisID"), "1");
+    for (int id = 1; id <= 3; ++id)
+        EXPECT_EQ(schlüssel(id), "2|0|0|0|0") << id;
+    EXPECT_EQ(schlüssel(4), "1|1|1|1|1");
     EXPECT_EQ(text(*f, 2, 1), "Wohnbau Nordhang");
     EXPECT_EQ(zustand(*f, 2, 2), Zellzustand::Offen);
-    EXPECT_EQ(f->grid().auswahl.ersteZeile(), 1);
-    EXPECT_EQ(f->grid().auswahl.letzteZeile(), 3);
+    EXPECT_EQ(QString("%1-%2").arg(f->grid().auswahl.ersteZeile()).arg(f->grid().auswahl.letzteZeile()),
+              "1-3");
 }
 
 TEST_F(ZuordnungTest, RowsOfAnotherParentArePassedOver) {
     gerät(1, "0100-Corvex");
-    zeile({.messungID = 1, .kundeID = 1, .anlageID = 1});
-    zeile({.messungID = 2, .kundeID = 1, .anlageID = 1});
-    zeile({.messungID = 3, .kundeID = 1, .anlageID = 2});
-    zeile({.messungID = 4, .kundeID = 2, .anlageID = 3});
+    eingelesen("MessungID=1, KundeID=1, AnlageID=1");
+    eingelesen("MessungID=2, KundeID=1, AnlageID=1");
+    eingelesen("MessungID=3, KundeID=1, AnlageID=2");
+    eingelesen("MessungID=4, KundeID=2, AnlageID=3");
     auto f = formular();
 
     f->gridAuswahl({1, 3, 4, 3});
@@ -82,10 +74,9 @@ TEST_F(ZuordnungTest, RowsOfAnotherParentArePassedOver) {
     const QString prüfung = zahlformat::datumText(QDate(2022, 6, 14)) + " " + xText("Grund1") + " 00000001";
     EXPECT_EQ(f->combo().einträge[1].text, prüfung);
     f->comboKlick(1);
-    EXPECT_EQ(feld(1, "PrüfungID"), "1");
-    EXPECT_EQ(feld(2, "PrüfungID"), "1");
-    EXPECT_EQ(feld(3, "PrüfungID"), "0");
-    EXPECT_EQ(feld(4, "PrüfungID"), "0");
+    EXPECT_EQ(wert("SELECT Group_Concat(PrüfungID) FROM (SELECT PrüfungID FROM 0100_EinleseDaten ORDER BY "
+                   "MessungID)"),
+              "1,1,0,0");
     EXPECT_EQ(text(*f, 1, 3), prüfung);
 
     // "keine Anlage" for a customer's rows: a typed number stays and the plant is to be created.
@@ -93,19 +84,19 @@ TEST_F(ZuordnungTest, RowsOfAnotherParentArePassedOver) {
     f->gridAuswahl({1, 2, 4, 2});
     doppelklick(*f, 1, 2);
     f->comboKlick(eintrag(*f, xText("keine Anlage")));
-    for (int id : {1, 2, 3})
-        EXPECT_EQ(feld(id, "AnlageID"), "0") << id;
+    EXPECT_EQ(
+        wert(
+            "SELECT Group_Concat(AnlageID) FROM (SELECT AnlageID FROM 0100_EinleseDaten ORDER BY MessungID)"),
+        "0,0,0,3");
     EXPECT_EQ(feld(1, "PrüfungID"), "0");
-    EXPECT_EQ(feld(4, "AnlageID"), "3");
-    EXPECT_EQ(feld(2, "AnlageNr"), "004");
-    EXPECT_EQ(text(*f, 2, 2), "004");
+    EXPECT_EQ(feld(2, "AnlageNr") + " " + text(*f, 2, 2), "004 004");
     EXPECT_EQ(zustand(*f, 2, 2), Zellzustand::Anzulegen);
 }
 
 TEST_F(ZuordnungTest, BoardAndCircuitTakeTheEntryTextAsTheirNumber) {
     gerät(1, "0100-Corvex");
-    zeile({.messungID = 1, .kundeID = 1, .anlageID = 1, .prüfungID = 1, .verteilerID = 1, .stromkreisID = 1});
-    zeile({.messungID = 2, .kundeID = 1, .anlageID = 1, .prüfungID = 1, .verteilerID = 1});
+    eingelesen("MessungID=1, KundeID=1, AnlageID=1, PrüfungID=1, VerteilerID=1, StromkreisID=1");
+    eingelesen("MessungID=2, KundeID=1, AnlageID=1, PrüfungID=1, VerteilerID=1");
     auto f = formular();
 
     doppelklick(*f, 2, 5);
@@ -120,17 +111,14 @@ TEST_F(ZuordnungTest, BoardAndCircuitTakeTheEntryTextAsTheirNumber) {
     doppelklick(*f, 1, 4);
     EXPECT_EQ(f->combo().einträge.value(0).text, "0");
     f->comboKlick(0);
-    EXPECT_EQ(feld(1, "VerteilerNr"), "0");
-    EXPECT_EQ(feld(1, "VerteilerID"), "0");
-    EXPECT_EQ(feld(1, "StromkreisID"), "0");
-    EXPECT_EQ(text(*f, 1, 4), "0");
+    EXPECT_EQ(feld(1, "VerteilerNr") + " " + schlüssel(1) + " " + text(*f, 1, 4), "0 1|1|1|0|0 0");
     EXPECT_EQ(zustand(*f, 1, 4), Zellzustand::Anzulegen);
     EXPECT_EQ(feld(2, "VerteilerID"), "1"); // outside the selection
 }
 
 TEST_F(ZuordnungTest, OnlyEnterOrAClickOnAnEntryStores) {
     gerät(1, "0100-Corvex");
-    zeile({.messungID = 1, .kundeID = 1, .anlageID = 1, .prüfungID = 1, .verteilerID = 1, .stromkreisID = 1});
+    eingelesen("MessungID=1, KundeID=1, AnlageID=1, PrüfungID=1, VerteilerID=1, StromkreisID=1");
     auto f = formular();
 
     // Enter on the unchanged list stores the same key, which changes nothing below it either.
@@ -138,8 +126,7 @@ TEST_F(ZuordnungTest, OnlyEnterOrAClickOnAnEntryStores) {
     EXPECT_TRUE(f->tasteGesehen());
     f->comboTaste(Enter);
     EXPECT_FALSE(f->combo().sichtbar);
-    EXPECT_EQ(feld(1, "AnlageID"), "1");
-    EXPECT_EQ(feld(1, "StromkreisID"), "1");
+    EXPECT_EQ(schlüssel(1), "1|1|1|1|1");
 
     // Moving through the list and leaving, or Escape, store nothing.
     doppelklick(*f, 1, 2);
@@ -151,8 +138,7 @@ TEST_F(ZuordnungTest, OnlyEnterOrAClickOnAnEntryStores) {
     f->comboTaste(Runter);
     f->comboTaste(Escape);
     EXPECT_FALSE(f->combo().sichtbar);
-    EXPECT_EQ(feld(1, "AnlageID"), "1");
-    EXPECT_EQ(feld(1, "PrüfungID"), "1");
+    EXPECT_EQ(schlüssel(1), "1|1|1|1|1");
 
     // A typed text that names no entry is dropped.
     f->gridAuswahl({1, 2, 1, 2});
@@ -166,15 +152,14 @@ TEST_F(ZuordnungTest, OnlyEnterOrAClickOnAnEntryStores) {
     doppelklick(*f, 1, 2);
     f->comboTaste(Runter);
     f->comboTaste(Enter);
-    EXPECT_EQ(feld(1, "AnlageID"), "2");
-    EXPECT_EQ(feld(1, "PrüfungID"), "0");
+    EXPECT_EQ(schlüssel(1), "1|2|0|0|0");
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
 TEST_F(ZuordnungTest, TheComboOpensOnDataCellsOnlyAndFromOutsideTheSelectionForOneRow) {
     gerät(1, "0100-Corvex");
     for (int id = 1; id <= 3; ++id)
-        zeile({.messungID = id, .kundeID = 1});
+        eingelesen("MessungID=" + QString::number(id) + ", KundeID=1");
     auto f = formular();
     f->gridAuswahl({1, 1, 2, 1});
 
@@ -192,9 +177,8 @@ TEST_F(ZuordnungTest, TheComboOpensOnDataCellsOnlyAndFromOutsideTheSelectionForO
 
     doppelklick(*f, 3, 2);
     EXPECT_TRUE(f->combo().sichtbar);
-    EXPECT_EQ(f->grid().auswahl.Row, 3);
-    EXPECT_EQ(f->grid().auswahl.RowSel, 3);
-    EXPECT_EQ(f->grid().auswahl.Col, 2);
+    const Auswahl& a = f->grid().auswahl;
+    EXPECT_EQ(QString("%1 %2 %3").arg(a.Row).arg(a.RowSel).arg(a.Col), "3 3 2");
 }
 
 } // namespace

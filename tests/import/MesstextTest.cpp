@@ -6,84 +6,39 @@ using namespace vemo;
 
 namespace {
 
-// The value of a column of Messtextwerte in a circuit.
-QString wert(const Messkreis& k, const char* spalte) {
-    for (size_t i = 0; i < Messtextwerte.size(); ++i)
-        if (QString(Messtextwerte[i]) == spalte)
-            return k.werte[i];
-    return "?";
+// A circuit as "board/circuit|name|cable|fuse|RCD current|RCD kind|" and its values VISO to LOW
+// joined by ";".
+QString zeile(const Messkreis& k) {
+    return QStringList{
+               k.verteilerCode + "/" + k.stromkreisCode, k.name, k.kabel, k.sicherung, k.fiStrom, k.fiArt}
+               .join('|') +
+           "|" + QStringList(k.werte.begin(), k.werte.end()).join(';');
 }
 
-// Fields up to the values, then the values VISO to LOW.
-QString satz(const QString& platz, const QString& vorWerten, const QStringList& werte) {
-    return platz + ";" + vorWerten + ";" + werte.join(';');
-}
+const QString Werte = "500;1,2;0,9;>999;30;21;4,5;0,6;28;0,35;0,41;12;rechts;0,15";
+const QString Leer = ";;;;;;;;;;;;;";
 
-const QStringList Werte{"500", "1,2", "0,9",  ">999", "30", "21",     "4,5",
-                        "0,6", "28",  "0,35", "0,41", "12", "rechts", "0,15"};
-
+// The compressed form names no board.
 TEST(MesstextTest, TheCompressedFormGivesEachRecordItsCircuitInFieldOrder) {
-    const QString text = "!" + satz("1/3", ";Küche;NYM-J 3x1,5;B16;;30;;A;", Werte) + "#!" +
-                         satz("2/12", ";Keller;;;;;;;", QStringList(14)) + "#@";
-    const Messtext m = messtextLesen(text);
+    const Messtext m = messtextLesen("!1/3;;Küche;NYM-J 3x1,5;B16;;30;;A;;" + Werte +
+                                     "#!2/12;;Keller;;;;;;;;" + Leer + "#@");
     ASSERT_TRUE(m.fehler.isEmpty()) << m.fehler.join("|").toStdString();
     ASSERT_EQ(m.kreise.size(), 2);
-    const Messkreis& k = m.kreise[0];
-    EXPECT_EQ(k.verteilerCode, "001");
-    EXPECT_EQ(k.stromkreisCode, "003");
-    EXPECT_EQ(k.name, "Küche");
-    EXPECT_EQ(k.kabel, "NYM-J 3x1,5");
-    EXPECT_EQ(k.sicherung, "B16");
-    EXPECT_EQ(k.fiStrom, "30");
-    EXPECT_EQ(k.fiArt, "A");
-    EXPECT_EQ(wert(k, "VISO"), "500");
-    EXPECT_EQ(wert(k, "RISO"), ">999");
-    EXPECT_EQ(wert(k, "FIT"), "28");
-    EXPECT_EQ(wert(k, "DREH"), "rechts");
-    EXPECT_EQ(wert(k, "LOW"), "0,15");
-    EXPECT_EQ(m.kreise[1].verteilerCode, "002");
-    EXPECT_EQ(m.kreise[1].stromkreisCode, "012");
-    EXPECT_EQ(wert(m.kreise[1], "LOW"), "");
-    EXPECT_TRUE(m.verteilernamen.isEmpty()); // the compressed form names no board
+    EXPECT_EQ(zeile(m.kreise[0]), "001/003|Küche|NYM-J 3x1,5|B16|30|A|" + Werte);
+    EXPECT_EQ(zeile(m.kreise[1]), "002/012|Keller|||||" + Leer);
+    EXPECT_TRUE(m.verteilernamen.isEmpty());
 }
 
 TEST(MesstextTest, TheLongFormNamesItsBoardsAndTakesOneFieldALine) {
-    QStringList zeilen{"**** START ****", "UV Hauptverteiler"};
-    zeilen << "1/1"
-           << ""
-           << "Licht"
-           << "NYM-J 3x1,5"
-           << "B10"
-           << ""
-           << ""
-           << ""
-           << ""
-           << "" << Werte << "###";
-    zeilen << "1/2"
-           << ""
-           << "Herd"
-           << ""
-           << "C32"
-           << ""
-           << ""
-           << ""
-           << ""
-           << ""
-           << "400";
-    zeilen << "UV Garage"
-           << "2/1"
-           << ""
-           << "Tor";
-    const Messtext m = messtextLesen(zeilen.join("\r\n"));
+    const QString text = "**** START ****|UV Hauptverteiler|1/1||Licht|NYM-J 3x1,5|B10||||||" +
+                         QString(Werte).replace(';', '|') + "|###|1/2||Herd||C32||||||400|UV Garage|2/1||Tor";
+    const Messtext m = messtextLesen(text.split('|').join("\r\n"));
     ASSERT_TRUE(m.fehler.isEmpty()) << m.fehler.join("|").toStdString();
     ASSERT_EQ(m.kreise.size(), 3);
-    EXPECT_EQ(m.kreise[0].sicherung, "B10");
-    EXPECT_EQ(wert(m.kreise[0], "LOW"), "0,15");
-    EXPECT_EQ(m.kreise[1].name, "Herd");
-    EXPECT_EQ(wert(m.kreise[1], "VISO"), "400");
-    EXPECT_EQ(m.kreise[2].verteilerCode, "002");
-    EXPECT_EQ(m.verteilernamen.value("001"), "Hauptverteiler");
-    EXPECT_EQ(m.verteilernamen.value("002"), "Garage");
+    EXPECT_EQ(zeile(m.kreise[0]), "001/001|Licht|NYM-J 3x1,5|B10|||" + Werte);
+    EXPECT_EQ(zeile(m.kreise[1]), "001/002|Herd||C32|||400" + Leer);
+    EXPECT_EQ(zeile(m.kreise[2]), "002/001|Tor|||||" + Leer);
+    EXPECT_EQ(m.verteilernamen.value("001") + "|" + m.verteilernamen.value("002"), "Hauptverteiler|Garage");
 }
 
 TEST(MesstextTest, AFaultyTextIsRefusedWholeWithItsMessages) {

@@ -1,3 +1,4 @@
+#include "support/Fehlernummer.h"
 #include "support/Testumgebung.h"
 
 #include "PtyLeitung.h"
@@ -13,15 +14,6 @@ namespace vemo::test {
 namespace {
 
 class CommPortTest : public Testumgebung {};
-
-int fehlernummer(const std::function<void()>& aufruf) {
-    try {
-        aufruf();
-    } catch (const Fehler& f) {
-        return f.nummer();
-    }
-    return 0;
-}
 
 // Lets the event loop run until something has come or a second has passed.
 QByteArray eingangAbwarten(CommPort& port) {
@@ -80,10 +72,8 @@ TEST_F(CommPortTest, FalscheBedienungGibtDieFehlerDerSteuerung) {
 
     const auto p = Leitungsparameter::lesen("19200,e,7,1.5");
     ASSERT_TRUE(p);
-    EXPECT_EQ(p->baud, 19200);
-    EXPECT_EQ(p->parität, 'E');
-    EXPECT_EQ(p->datenbits, 7);
-    EXPECT_EQ(p->stoppbits, "1.5");
+    EXPECT_EQ(QString("%1 %2 %3 %4").arg(p->baud).arg(QChar(p->parität)).arg(p->datenbits).arg(p->stoppbits),
+              "19200 E 7 1.5");
     for (const char* falsch : {"9600,N,8", "0,N,8,1", "9600,N,9,1", "9600,N,8,3", "", "schnell,N,8,1"})
         EXPECT_FALSE(Leitungsparameter::lesen(falsch)) << falsch;
 }

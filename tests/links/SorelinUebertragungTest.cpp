@@ -60,11 +60,8 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
     const QByteArray daten = QByteArray::fromHex("8180F5820023");
-    const QByteArray rest = QByteArray::fromHex("D5D5"
-                                                "00"
-                                                "0A0111"
-                                                "0A00") +
-                            SorelinBild(daten).datenblock() + sorelin::Endmarke;
+    const QByteArray rest =
+        QByteArray::fromHex("D5D5 00 0A0111 0A00") + SorelinBild(daten).datenblock() + sorelin::Endmarke;
     QList<int> prozente;
     bool blinktUnterwegs = true;
     QByteArray dateiUnterwegs;
@@ -103,12 +100,8 @@ TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
     imDialog([&](frmSorelin& form) {
-        sobaldBereit(form, [&] {
-            instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00"
-                                                                         "0A00"
-                                                                         "07"
-                                                                         "1E"));
-        });
+        sobaldBereit(form,
+                     [&] { instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00 0A00 07 1E")); });
     });
 
     übertragen();
@@ -179,11 +172,8 @@ TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
     instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
     imDialog([&](frmSorelin& form) {
-        sobaldBereit(form, [&] {
-            instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00"
-                                                                         "1E0000"
-                                                                         "8001"));
-        });
+        sobaldBereit(
+            form, [&] { instrument->Output(sorelin::Startmarke + QByteArray::fromHex("00 1E0000 8001")); });
     });
     übertragen();
     ASSERT_EQ(m_ui.meldungen.size(), 1);

@@ -178,8 +178,7 @@ TEST_F(Einlesen, DumpCutShortKeepsTheRowsWrittenSoFar) {
     textLesen({"-----", "5831     No. 31742-00815", "------", "0001 R: 0,12 Ohm", "     Ub: 3,5 V"});
     EXPECT_EQ(m_ui.texte(), QStringList{"62 Einlesen hinter Dateiende"});
     EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 3);
-    EXPECT_EQ(anzahl("0100_EinleseMessDaten"), 3);
+    EXPECT_EQ(anzahlen("0100_EinleseDaten|0100_EinleseMessDaten"), "3|3");
 }
 
 TEST_F(Einlesen, LoggerRecordAndDumpWithoutBlockGoToTheDataPool) {

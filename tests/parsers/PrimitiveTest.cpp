@@ -12,6 +12,7 @@ struct Gefunden {
     QString zahl;
     QString rest;
     int start;
+    QString text() const { return zahl + "|" + rest + "|" + QString::number(start); }
 };
 
 Gefunden getZahl(const QString& zeile, int start = 1) {
@@ -26,33 +27,18 @@ protected:
 };
 
 TEST(Primitive, GetZahlFindsValueUnitAndNextStart) {
-    Gefunden g = getZahl("R = 0,35 Ohm");
-    EXPECT_EQ(g.zahl, "0,35");
-    EXPECT_EQ(g.rest, "Ohm");
-    EXPECT_EQ(g.start, 13); // behind the unit
+    // "zahl|rest|next start": behind the unit, or standing on the next number.
+    EXPECT_EQ(getZahl("R = 0,35 Ohm").text(), "0,35|Ohm|13");
+    EXPECT_EQ(getZahl("  Riso = o.r. MOhm").text().section('|', 0, 1), "o.r.|MOhm");
+    EXPECT_EQ(getZahl("Ub 12,3 25,0").text(), "12,3||9");
+    EXPECT_EQ(getZahl("Ub 12,3 25,0", 9).zahl, "25,0");
 
-    g = getZahl("  Riso = o.r. MOhm");
-    EXPECT_EQ(g.zahl, "o.r.");
-    EXPECT_EQ(g.rest, "MOhm");
-
-    g = getZahl("Ub 12,3 25,0");
-    EXPECT_EQ(g.zahl, "12,3");
-    EXPECT_EQ(g.rest, "");
-    EXPECT_EQ(g.start, 9); // standing on "25,0"
-    g = getZahl("Ub 12,3 25,0", g.start);
-    EXPECT_EQ(g.zahl, "25,0");
-
-    EXPECT_EQ(getZahl(".5 V").zahl, "0.5");
-    EXPECT_EQ(getZahl(",5 V").zahl, "0,5");
-    EXPECT_EQ(getZahl("Isc = <0,1 kA").zahl, "<0,1");
-    EXPECT_EQ(getZahl("RCD AC 180 x1").zahl, "AC 180°"); // the phase mark of an RCD test
-    EXPECT_EQ(getZahl("AC 180").zahl, "AC 180°");
-
-    g = getZahl("nur Worte hier");
-    EXPECT_EQ(g.zahl, "");
-    EXPECT_EQ(g.rest, "");
-    g = getZahl("Riso OL");
-    EXPECT_EQ(g.zahl, "o.r.");
+    // The phase mark of an RCD test; no number at all; an overload.
+    const auto zahl = [](const QString& zeile) { return getZahl(zeile).zahl; };
+    EXPECT_EQ(test::jeweils(zahl, {".5 V", ",5 V", "Isc = <0,1 kA", "RCD AC 180 x1", "AC 180",
+                                   "nur Worte hier", "Riso OL"}),
+              "0.5 | 0,5 | <0,1 | AC 180° | AC 180° |  | o.r.");
+    EXPECT_EQ(getZahl("nur Worte hier").rest, "");
 }
 
 TEST(Primitive, FunctionNamesOfBothDumpFamilies) {
@@ -69,25 +55,18 @@ TEST(Primitive, FunctionNamesOfBothDumpFamilies) {
     funktion.clear();
     EXPECT_EQ(GetFunktion("tFI 25 ms", funktion, "ms"), "tFI ms");
 
+    // One after the other, as a reader calls it: "name|second name".
     QString f2, w2;
-    EXPECT_EQ(GetFunktionMul("0001 R500V: 245,0 MOhm", f2, w2), "Riso MOhm");
-    EXPECT_EQ(f2, "Riso V");
-    EXPECT_EQ(w2, "500");
-    EXPECT_EQ(GetFunktionMul("R: 0,12 Ohm", f2, w2), "LOW Ohm");
-    EXPECT_EQ(f2, "");
-    EXPECT_EQ(GetFunktionMul("ZS0: 0,45 Ohm", f2, w2), "ZS");
-    EXPECT_EQ(GetFunktionMul("Ub: 3,5 V", f2, w2), "Ub");
-    EXPECT_EQ(GetFunktionMul("ohne Doppelpunkt", f2, w2), "");
+    EXPECT_EQ(GetFunktionMul("0001 R500V: 245,0 MOhm", f2, w2) + "|" + f2 + "|" + w2, "Riso MOhm|Riso V|500");
+    const auto mul = [&](const QString& zeile) { return GetFunktionMul(zeile, f2, w2) + "|" + f2; };
+    EXPECT_EQ(test::jeweils(mul, {"R: 0,12 Ohm", "ZS0: 0,45 Ohm", "Ub: 3,5 V", "ohne Doppelpunkt"}),
+              "LOW Ohm| | ZS| | Ub| | |");
 }
 
 TEST(Primitive, SmallHelpers) {
     EXPECT_EQ(DelZeichen("Zs = 1 ! Kommentar"), "Zs = 1 ");
     EXPECT_EQ(DelZeichen("kein Kommentar"), "kein Kommentar");
-    EXPECT_EQ(SetNull("0"), "");
-    EXPECT_EQ(SetNull("x"), "");
-    EXPECT_EQ(SetNull("000"), "");
-    EXPECT_EQ(SetNull("12"), "012");
-    EXPECT_EQ(SetNull("1234"), "234");
+    EXPECT_EQ(test::jeweils(SetNull, {"0", "x", "000", "12", "1234"}), " |  |  | 012 | 234");
     EXPECT_TRUE(IstGrösser("5", ">3"));
     EXPECT_FALSE(IstGrösser(">3", "5"));
     EXPECT_TRUE(IstGrösser("1,5", "2"));
@@ -151,34 +130,25 @@ TEST_F(Zahlformate, DatesReadAsTheGeneralParserReadsThem) {
 
 TEST_F(Zahlformate, ValuesTakeTheNormalFormOfTheLocale) {
     zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
-    EXPECT_EQ(WertText("0.30"), "0,3");
-    EXPECT_EQ(WertText("0,30"), "0,3");
-    EXPECT_EQ(WertText("<0.10"), "<0,1");
-    EXPECT_EQ(WertText("o.r."), "o.r.");
-    EXPECT_EQ(WertText("AC 180°"), "AC 180°");
-    EXPECT_EQ(WertText("1.2.3"), "1.2.3");
-    EXPECT_EQ(WertText(""), "");
+    EXPECT_EQ(test::jeweils(WertText, {"0.30", "0,30", "<0.10", "o.r.", "AC 180°", "1.2.3", ""}),
+              "0,3 | 0,3 | <0,1 | o.r. | AC 180° | 1.2.3 | ");
     zahlformat::setzen(QLocale(QLocale::English, QLocale::UnitedKingdom));
-    EXPECT_EQ(WertText("0,30"), "0.3");
-    EXPECT_EQ(WertText("1500"), "1500");
+    EXPECT_EQ(test::jeweils(WertText, {"0,30", "1500"}), "0.3 | 1500");
 }
 
 class EinheitTest : public test::Testumgebung {};
 
 TEST_F(EinheitTest, ConversionByTheFirstLettersOfTheUnits) {
-    EXPECT_EQ(WertEinheit("1,5", "kOhm", "Ohm"), "1500");
-    EXPECT_EQ(WertEinheit("<0,2", "GOhm", "MOhm"), "<200");
-    EXPECT_EQ(WertEinheit("1,5", "kA", "A"), "1500");
-    EXPECT_EQ(WertEinheit("25", "mA", "A"), "0.025");
-    EXPECT_EQ(WertEinheit("2,5", "mA", "A"), "0,0025");
-    EXPECT_EQ(WertEinheit("0,5", "A", "mA"), "500");
-    EXPECT_EQ(WertEinheit("7", "Ohm", "Ohm"), "7");
-    EXPECT_EQ(WertEinheit("o.r.", "kOhm", "Ohm"), "o.r.");
-    EXPECT_EQ(WertEinheit("7", "", "Ohm"), "7");
+    // "wert|from|to".
+    const auto umrechnen = [](const QString& s) {
+        return WertEinheit(s.section('|', 0, 0), s.section('|', 1, 1), s.section('|', 2));
+    };
+    EXPECT_EQ(test::jeweils(umrechnen, {"1,5|kOhm|Ohm", "<0,2|GOhm|MOhm", "1,5|kA|A", "25|mA|A", "2,5|mA|A",
+                                        "0,5|A|mA", "7|Ohm|Ohm", "o.r.|kOhm|Ohm", "7||Ohm"}),
+              "1500 | <200 | 1500 | 0.025 | 0,0025 | 500 | 7 | o.r. | 7");
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
     EXPECT_EQ(WertEinheit("5", "MOhm", "Ohm"), "5");
-    ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_EQ(m_ui.meldungen[0].text, "Unbekannte Einheit 5 MOhm Ohm");
+    ASSERT_EQ(m_ui.texte(), QStringList{"Unbekannte Einheit 5 MOhm Ohm"});
     EXPECT_EQ(m_ui.meldungen[0].titel, "vemotrix professional");
 }
 
@@ -186,8 +156,7 @@ TEST_F(EinheitTest, FunctionTableLookUp) {
     sql("INSERT OR REPLACE INTO \"0100_TeilFunktion\" VALUES ('Zs', 'LOOPRS', 'Ohm');");
     QString spalte = "alt", einheit = "alt";
     EXPECT_FALSE(TeilFunktionSuchen("zs", spalte, einheit));
-    EXPECT_EQ(spalte, "LOOPRS");
-    EXPECT_EQ(einheit, "Ohm");
+    EXPECT_EQ(spalte + " " + einheit, "LOOPRS Ohm");
     EXPECT_TRUE(TeilFunktionSuchen("Unbekannt", spalte, einheit));
     EXPECT_EQ(spalte, "LOOPRS"); // left as it was
     sql("INSERT INTO \"0100_TeilFunktion\" VALUES ('it''s', 'RISO', 'MOhm');");
@@ -211,8 +180,7 @@ TEST_F(EinheitTest, FunctionTableAnswersAreKeptForOneRunOnly) {
         EXPECT_TRUE(TeilFunktionSuchen("Neu", spalte, einheit));
         EXPECT_EQ(spalte, "alt");
         EXPECT_FALSE(TeilFunktionSuchen("Zs", spalte, einheit));
-        EXPECT_EQ(spalte, "LOOPRS");
-        EXPECT_EQ(einheit, "Ohm");
+        EXPECT_EQ(spalte + " " + einheit, "LOOPRS Ohm");
         sql("ALTER TABLE \"0100_TeilFunktion\" RENAME TO Weg;");
         EXPECT_THROW(TeilFunktionSuchen("Anders", spalte, einheit), Fehler);
         sql("ALTER TABLE Weg RENAME TO \"0100_TeilFunktion\";"

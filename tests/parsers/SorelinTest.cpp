@@ -16,19 +16,13 @@ namespace {
 // divisor, continuity 0.35 Ohm, loop 0.41 Ohm with 561 A, and an RCD test whose id 20 is the top
 // byte of its trip time of 23 ms, touch voltage 1.8 V, tripping current 21 mA, limit 50 V, rated
 // current 30 mA and the settings byte 05 (type A, factor x1, half-wave 0°).
-const QByteArray Kreis1 = QByteArray::fromHex("8180F5"
-                                              "820023"
-                                              "8300290231"
-                                              "140017001200153200"
-                                              "1E05");
+const QByteArray Kreis1 = QByteArray::fromHex("8180F5 820023 8300290231 140017001200153200 1E05");
 const QStringList Kreis1Zeilen{"Riso R V=500 V", "Riso R MOhm=245 MOhm", "LOW Ohm=0.35 Ohm", "Zs=0.41 Ohm",
                                "Zs Ik=561 A",    "FI t=23 ms",           "FI Ub=1.8 V",      "FI Ia=21 mA",
                                "Ub max=50 V",    "FI E, Idn=30 mA",      "FI Einstellung=5", "FI Stromart=A",
                                "FI Faktor=x1",   "FI Halbwelle=0°"};
 // Behind the start block 240 a second circuit: both readings over range.
-const QByteArray Kreis2 = QByteArray::fromHex("F0"
-                                              "813FFF"
-                                              "82FFFF");
+const QByteArray Kreis2 = QByteArray::fromHex("F0 813FFF 82FFFF");
 
 class SorelinTest : public Einleseumgebung {
 protected:
@@ -100,10 +94,7 @@ TEST_F(SorelinTest, WasDerParserNichtLesenKannWirdGemeldet) {
          SorelinBild(Kreis1).zusatzblöcke("\x07").bytes(),
          {"Blockkennung nicht bekannt"}},
         {"two blocks of kind 10",
-         SorelinBild(Kreis1)
-             .zusatzblöcke(QByteArray::fromHex("0A00"
-                                               "0A00"))
-             .bytes(),
+         SorelinBild(Kreis1).zusatzblöcke(QByteArray::fromHex("0A00 0A00")).bytes(),
          {"MessBlockKennung nicht bekannt"}},
         {"no driver table for the type", SorelinBild(Kreis1).typ(4999).bytes(), {"Unbekanntes Prüfgerät"}},
         {"a block the driver does not know",
@@ -131,10 +122,7 @@ TEST_F(SorelinTest, WasDerParserNichtLesenKannWirdGemeldet) {
 
 TEST_F(SorelinTest, DerErsteStromkreisGehtNichtInDieLetzteZeileEinesAnderenEinlesens) {
     lesen(SorelinBild(QByteArray::fromHex("820023")).bytes());
-    lesen(SorelinBild(QByteArray::fromHex("820024"
-                                          "F0"
-                                          "820025"))
-              .bytes());
+    lesen(SorelinBild(QByteArray::fromHex("820024 F0 820025")).bytes());
 
     EXPECT_EQ(modul().Abbruchmerker, 0);
     EXPECT_EQ(gelesen(), (QStringList{"0001/0001: LOW Ohm=0.35 Ohm", "0001/0001: LOW Ohm=0.36 Ohm",
@@ -233,13 +221,7 @@ TEST_F(SorelinTreiberTest, MaskeSkalaUeberlaufUndStellenFormenDenWert) {
 TEST_F(SorelinTreiberTest, BlockendeFolgtDenWertenUndKenntStartblockUndEnde) {
     // 200 stands before its values (1 + 2 bytes); 9 shares its byte with its three-byte value;
     // 10 has no values and is its id alone.
-    const QByteArray daten = QByteArray::fromHex("C8"
-                                                 "01"
-                                                 "0002"
-                                                 "F0"
-                                                 "090005"
-                                                 "0A"
-                                                 "C8");
+    const QByteArray daten = QByteArray::fromHex("C8 01 0002 F0 090005 0A C8");
     const auto ende = [&](qsizetype p) { return GetMessBlockEnd(daten, p, daten.size() - 1, m_treiber); };
     EXPECT_EQ(ende(0).position, 4);
     EXPECT_EQ(ende(0).art, Blockart::StartBlock);
@@ -254,11 +236,7 @@ TEST_F(SorelinTreiberTest, BlockendeFolgtDenWertenUndKenntStartblockUndEnde) {
 TEST_F(SorelinTreiberTest, DieRcdBloeckeSchreibenIhreEinstellungenDahinter) {
     // Type 77: a selective RCD test with settings 07 (A, x2, 180°), then trip time series heads for
     // 500 mA and for 30 mA with settings 08 (limit 25 V) and 00 (50 V).
-    lesen(SorelinBild(QByteArray::fromHex("1407"
-                                          "F0"
-                                          "0501F408"
-                                          "F0"
-                                          "05001E00"))
+    lesen(SorelinBild(QByteArray::fromHex("1407 F0 0501F408 F0 05001E00"))
               .typ(77)
               .firmware(QByteArray("\x01\x00", 2))
               .bytes());

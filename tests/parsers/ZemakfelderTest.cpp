@@ -2,20 +2,14 @@
 #include "core/InitTabelle.h"
 #include "parsers/Codeaufteilung.h"
 #include "platform/Zahlformat.h"
+#include "support/Fehlernummer.h"
 #include "support/Testumgebung.h"
 
 using namespace vemo;
 
 namespace {
 
-int fehlernummer(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const Fehler& e) {
-        return e.nummer();
-    }
-    return 0;
-}
+using test::fehlernummer;
 
 TEST(Zemakfelder, FieldsWrapRoundInTheOlderModelsAndEndInTheNewer) {
     QStringList felder;
@@ -36,14 +30,13 @@ TEST(Zemakfelder, FieldsWrapRoundInTheOlderModelsAndEndInTheNewer) {
 TEST(Zemakfelder, HexadecimalFieldsAndCodes) {
     EXPECT_EQ(hexZahl("8123"), 33059u); // unsigned, though its top bit is set
     EXPECT_EQ(hexZahl("ffff"), 65535u);
-    EXPECT_EQ(codeText("04D2"), "1234");
-    EXPECT_EQ(codeText("7"), "0007");
-    EXPECT_EQ(codeText("186A0"), "0000"); // 100000: the leading digits are lost
-    EXPECT_EQ(codeText("1E240"), "3456");
-    EXPECT_EQ(fehlernummer([] { hexZahl("12G4"); }), fehler::TypenUnverträglich);
-    EXPECT_EQ(fehlernummer([] { hexZahl(""); }), fehler::TypenUnverträglich);
-    EXPECT_EQ(fehlernummer([] { hexZahl("&H12"); }), fehler::TypenUnverträglich);
-    EXPECT_EQ(fehlernummer([] { hexZahl("10000000000000000"); }), fehler::Überlauf);
+    // 100000 loses its leading digits.
+    EXPECT_EQ(test::jeweils(codeText, {"04D2", "7", "186A0", "1E240"}), "1234 | 0007 | 0000 | 3456");
+    const auto fehlerBei = [](const QString& feld) {
+        return QString::number(fehlernummer([&] { hexZahl(feld); }));
+    };
+    EXPECT_EQ(test::jeweils(fehlerBei, {"12G4", "", "&H12", "10000000000000000"}),
+              QString("%1 | %1 | %1 | %2").arg(fehler::TypenUnverträglich).arg(fehler::Überlauf));
 
     const Datensatz satz("0,0,0,0,0,0,0,94F2", true);
     EXPECT_EQ(GetCode3(satz), 5u); // bits 10 to 12
@@ -98,17 +91,15 @@ TEST(Codeaufteilung, DigitsGoToCustomerPlantBoardAndCircuit) {
 using Einstellungen = test::Testumgebung;
 
 TEST_F(Einstellungen, CodeSplittingIsReadFromInit) {
-    const Codeaufteilung standard = codeaufteilungLesen();
-    EXPECT_FALSE(standard.an);
-    EXPECT_EQ(standard.kundenstellen, 2);
-    EXPECT_EQ(standard.verteilerstellen, 2);
+    const auto gelesen = [] {
+        const Codeaufteilung c = codeaufteilungLesen();
+        return QString("%1 %2 %3").arg(c.an).arg(c.kundenstellen).arg(c.verteilerstellen);
+    };
+    EXPECT_EQ(gelesen(), "0 2 2");
 
     sql("INSERT INTO init VALUES ('codeSplitting3720', '1'), ('Kundencodestellen3720', '3'), "
         "('Verteilercodestellen3720', '1');");
-    const Codeaufteilung gesetzt = codeaufteilungLesen();
-    EXPECT_TRUE(gesetzt.an);
-    EXPECT_EQ(gesetzt.kundenstellen, 3);
-    EXPECT_EQ(gesetzt.verteilerstellen, 1);
+    EXPECT_EQ(gelesen(), "1 3 1");
 
     // Only the first 50 characters of a name count.
     EXPECT_EQ(InitLesen("codeSplitting3720" + QString(40, 'x'), "?"), "?");
@@ -118,8 +109,7 @@ TEST_F(Einstellungen, CodeSplittingIsReadFromInit) {
     // Writing updates the row named, or adds one under the cut name.
     InitSchreiben(QString(60, 'n'), "neu");
     InitSchreiben("Firma_NiceicNo", "N-17");
-    EXPECT_EQ(InitLesen(QString(50, 'n'), "?"), "neu");
-    EXPECT_EQ(InitLesen("Firma_NiceicNo", "?"), "N-17");
+    EXPECT_EQ(InitLesen(QString(50, 'n'), "?") + " " + InitLesen("Firma_NiceicNo", "?"), "neu N-17");
     EXPECT_EQ(wert("SELECT COUNT(*) FROM init"), "5");
 
     sql("UPDATE init SET wert = NULL WHERE name = 'codeSplitting3720';");

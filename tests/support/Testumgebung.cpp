@@ -69,8 +69,32 @@ QString Testumgebung::wert(const QString& abfrage, const QVector<QVariant>& wert
     return rs.Eof() ? QString() : text(rs.Field(0));
 }
 
+QStringList Testumgebung::zeilen(const QString& abfrage, const QVector<QVariant>& werte) const {
+    QStringList ergebnis;
+    Recordset rs =
+        werte.isEmpty() ? modul().db.OpenRecordset(abfrage) : modul().db.OpenRecordset(abfrage, werte);
+    for (; !rs.Eof(); rs.MoveNext()) {
+        QStringList spalten;
+        for (int i = 0; i < rs.FieldCount(); ++i)
+            spalten << text(rs.Field(i));
+        ergebnis << spalten.join('|');
+    }
+    return ergebnis;
+}
+
+QString Testumgebung::zeile(const QString& abfrage, const QVector<QVariant>& werte) const {
+    return zeilen(abfrage, werte).value(0);
+}
+
 long Testumgebung::anzahl(const QString& tabelle) const {
     return wert("SELECT Count(*) FROM [" + tabelle + "]").toLong();
+}
+
+QString Testumgebung::anzahlen(const QString& tabellen) const {
+    QStringList zahlen;
+    for (const QString& tabelle : tabellen.split('|'))
+        zahlen << QString::number(anzahl(tabelle));
+    return zahlen.join('|');
 }
 
 QString quelle(const QString& relativ) {

@@ -8,6 +8,7 @@
 
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -29,7 +30,13 @@ protected:
     // The first column of the first row of a query, as text.
     QString wert(const QString& abfrage) const;
     QString wert(const QString& abfrage, const QVector<QVariant>& werte) const;
+    // The rows of a query, each as its columns joined by "|", so that a result compares as one text.
+    QStringList zeilen(const QString& abfrage, const QVector<QVariant>& werte = {}) const;
+    // The first of them; empty without one.
+    QString zeile(const QString& abfrage, const QVector<QVariant>& werte = {}) const;
     long anzahl(const QString& tabelle) const;
+    // The row counts of tables named "A|B", joined the same way.
+    QString anzahlen(const QString& tabellen) const;
     QString pfad(const QString& name) const { return m_dir.filePath(name); }
 
     // Aborts a dialog still open when its time is up: the test fails instead of hanging.
@@ -58,6 +65,14 @@ protected:
 
 // A file of the source tree (samples, data).
 QString quelle(const QString& relativ);
+
+// Each input through f, the results joined by " | ": the cases of one rule compared as one text.
+template <class F> QString jeweils(F f, const QStringList& eingaben) {
+    QStringList ergebnisse;
+    for (const QString& e : eingaben)
+        ergebnisse << f(e);
+    return ergebnisse.join(" | ");
+}
 
 } // namespace vemo::test
 

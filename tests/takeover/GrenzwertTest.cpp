@@ -22,44 +22,31 @@ protected:
         GrenzwertHolen(grenzwert, messung);
         return grenzwert;
     }
-    QString g(const QString& spalte, int messID) const { return grenzwert(spalte, QString::number(messID)); }
+    QString g(const QString& spalten, int messID) const {
+        return grenzwerte(spalten, QString::number(messID));
+    }
 };
 
+// Without a fuse type the standard stays; marks of the standard row are not limits.
 TEST_F(GrenzwertHolenTest, StandardRowThenTestVoltageFuseAndRcd) {
     sql(R"(UPDATE "0100_GrenzwertStandard" SET LOOPRS = '<9', Grenzwert = 'std', StromkreisID = 7)");
     const Recordset rs = holen(1, "", "");
     EXPECT_EQ(rs.Text("MessID"), "1"); // it stands on the new row
-    EXPECT_EQ(g("RISO", 1), ">1");
-    EXPECT_EQ(g("LOW", 1), "<1");
-    EXPECT_EQ(g("LOOPRS", 1), "<9"); // no fuse type: the standard stays
-    EXPECT_EQ(g("FIUB", 1), "<50");
-    EXPECT_EQ(g("ErdRE", 1), "<100");
-    EXPECT_EQ(g("FIT MIN", 1), "");
-    EXPECT_EQ(g("FIT MAX", 1), "<300"); // factor 1, not selective
-    EXPECT_EQ(g("s_RISO", 1), "");      // marks of the standard row are not limits
-    EXPECT_EQ(g("Grenzwert", 1), "");
-    EXPECT_EQ(g("StromkreisID", 1), "400");
+    EXPECT_EQ(g("RISO|LOW|LOOPRS|FIUB|ErdRE|FIT MIN|FIT MAX|s_RISO|Grenzwert|StromkreisID", 1),
+              ">1|<1|<9|<50|<100||<300|||400");
 
     holen(2, "250", "x1/2"); // the half is worked out by the statement
-    EXPECT_EQ(g("RISO", 2), ">0,5");
-    EXPECT_EQ(g("FIT MIN", 2), ">300");
+    EXPECT_EQ(g("RISO|FIT MIN", 2), ">0,5|>300");
     holen(3, "42", "S x2");
-    EXPECT_EQ(g("RISO", 3), ">1");
-    EXPECT_EQ(g("FIT MIN", 3), ">60");
-    EXPECT_EQ(g("FIT MAX", 3), "<200");
+    EXPECT_EQ(g("RISO|FIT MIN|FIT MAX", 3), ">1|>60|<200");
 
     // The fuse of the circuit decides the loop limits.
     sql(R"(UPDATE "0100_Stromkreis" SET SicherungsTypID = 12)");
     holen(4, "", "");
-    EXPECT_EQ(g("LoopIKRS", 4), ">230");
-    EXPECT_EQ(g("LoopIKRI", 4), ">230");
-    EXPECT_EQ(g("LOOPRS", 4), "<1");
-    EXPECT_EQ(g("LOOPRI", 4), "<1");
+    EXPECT_EQ(g("LoopIKRS|LoopIKRI|LOOPRS|LOOPRI", 4), ">230|>230|<1|<1");
     sql(R"(UPDATE "0100_Stromkreis" SET SicherungsTypID = 6)");
     holen(5, "", "");
-    EXPECT_EQ(g("LOOPRS", 5), "<1.44");
-    EXPECT_EQ(g("LOOPRI", 5), "<1.44");
-    EXPECT_EQ(g("LoopIKRS", 5), ">160");
+    EXPECT_EQ(g("LOOPRS|LOOPRI|LoopIKRS", 5), "<1.44|<1.44|>160");
 }
 
 TEST_F(GrenzwertHolenTest, TheRowIsBuiltOnce) {
@@ -79,50 +66,40 @@ TEST_F(GrenzwertHolenTest, TheRowIsBuiltOnce) {
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
+// 2.875 rounds half up; a breaking current of no positive number gives no limit.
 TEST(Grenzwertrechnung, LoopLimitFromTheBreakingCurrent) {
-    EXPECT_EQ(LoopGrenzwert(">230"), "<1");
-    EXPECT_EQ(LoopGrenzwert(">160"), "<1.44");
-    EXPECT_EQ(LoopGrenzwert(">80"), "<2.88"); // 2.875 rounds half up
-    EXPECT_EQ(LoopGrenzwert(""), "");
-    EXPECT_EQ(LoopGrenzwert(">0"), "");
-    EXPECT_EQ(LoopGrenzwert(">-5"), "");
-    EXPECT_EQ(LoopGrenzwert(">B16"), "");
+    EXPECT_EQ(test::jeweils(LoopGrenzwert, {">230", ">160", ">80", "", ">0", ">-5", ">B16"}),
+              "<1 | <1.44 | <2.88 |  |  |  | ");
     zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(LoopGrenzwert(">160"), "<1,44");
     EXPECT_EQ(GetRCD_RE("<50", "30"), "<1666,7");
     zahlformat::ausUmgebung();
 }
 
+// The first character of the touch voltage is taken for the sign.
 TEST(Grenzwertrechnung, EarthResistanceFromTouchVoltage) {
-    EXPECT_EQ(GetRCD_RE("<50", "30"), "<1666.7");
-    EXPECT_EQ(GetRCD_RE("<25", "300"), "<83.3");
-    EXPECT_EQ(GetRCD_RE("50", "30"), ""); // the first character is taken for the sign
-    EXPECT_EQ(GetRCD_RE("<50", "0"), "");
-    EXPECT_EQ(GetRCD_RE("<50", ""), "");
-    EXPECT_EQ(GetRCD_RE("<0", "30"), "");
-    EXPECT_EQ(GetRCD_RE("", "30"), "");
+    const auto re = [](const QString& paar) {
+        return GetRCD_RE(paar.section('/', 0, 0), paar.section('/', 1));
+    };
+    EXPECT_EQ(test::jeweils(re, {"<50/30", "<25/300", "50/30", "<50/0", "<50/", "<0/30", "/30"}),
+              "<1666.7 | <83.3 |  |  |  |  | ");
 }
 
+// A closing ":" cannot end the number, but is taken inside the run.
 TEST(Grenzwertrechnung, FactorNumber) {
-    EXPECT_EQ(FaktorZahl("x1/2"), "1/2");
-    EXPECT_EQ(FaktorZahl("S x1/2"), "1/2");
-    EXPECT_EQ(FaktorZahl("x5"), "5");
-    EXPECT_EQ(FaktorZahl("S x2"), "2");
-    EXPECT_EQ(FaktorZahl("x2 S"), "2");
-    EXPECT_EQ(FaktorZahl("mult.: x2:"), "2"); // a closing ":" cannot end the number
-    EXPECT_EQ(FaktorZahl("k=1/2"), "=1/2");   // but is taken inside the run
-    EXPECT_EQ(FaktorZahl("xS"), "");
-    EXPECT_EQ(FaktorZahl(""), "");
+    EXPECT_EQ(
+        test::jeweils(FaktorZahl, {"x1/2", "S x1/2", "x5", "S x2", "x2 S", "mult.: x2:", "k=1/2", "xS", ""}),
+        "1/2 | 1/2 | 5 | 2 | 2 | 2 | =1/2 |  | ");
 }
 
+// "wert|Einheit|Maske".
 TEST(Grenzwertrechnung, NormalisedValue) {
-    EXPECT_EQ(NormWert(" 12.5! ", "kOhm", "s4"), "12500");
-    EXPECT_EQ(NormWert(">3", "kA", "s4"), ">3000");
-    EXPECT_EQ(NormWert("<0,2", "GOhm", "s4"), "<200");
-    EXPECT_EQ(NormWert("0,35", "Ohm", "s4"), "0,35");
-    EXPECT_EQ(NormWert("o.r.", "kOhm", "s4"), "o.r.");
-    EXPECT_EQ(NormWert("230!", "V", "s4 & s5"), "230V");
-    EXPECT_EQ(NormWert("230", "V", "s5"), "");
+    const auto norm = [](const QString& s) {
+        return NormWert(s.section('|', 0, 0), s.section('|', 1, 1), s.section('|', 2));
+    };
+    EXPECT_EQ(test::jeweils(norm, {" 12.5! |kOhm|s4", ">3|kA|s4", "<0,2|GOhm|s4", "0,35|Ohm|s4",
+                                   "o.r.|kOhm|s4", "230!|V|s4 & s5", "230|V|s5"}),
+              "12500 | >3000 | <200 | 0,35 | o.r. | 230V | ");
 }
 
 } // namespace

@@ -26,6 +26,7 @@ protected:
         sql("INSERT INTO \"0100_EinleseGeräteDaten\" VALUES (1, '0100-Corvex', '  C12345678', 1, '');");
     }
 
+    using Testumgebung::zeile;
     // A read-in row with a loop test as its values.
     void zeile(int messungID, int kunde, int anlageID, const QString& anlageNr, const QString& verteiler,
                const QString& stromkreis, int prüfungID = 0) {
@@ -68,21 +69,20 @@ TEST_F(UebernahmeTest, ASavedDumpTravelsTheWholeRoad) {
     EXPECT_FALSE(nochOffen);
     EXPECT_EQ(m_ui.dialoge, QStringList{"vemo::EinleseDatenController"});
 
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
-    EXPECT_EQ(anzahl("0100_EinleseMessDaten"), 0);
-    EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 0);
+    EXPECT_EQ(zeile("SELECT (SELECT Count(*) FROM 0100_EinleseDaten), (SELECT Count(*) FROM "
+                    "0100_EinleseMessDaten), (SELECT Count(*) FROM 0100_EinleseGeräteDaten)"),
+              "0|0|0");
+    // One inspection of the plant, with its instrument, earth resistance, certificate record, boards
+    // and circuits.
+    EXPECT_EQ(zeilen("SELECT PrüfgerätName1, Erdungswiderstand FROM 0100_Prüfung WHERE AnlagenID = 2"),
+              QStringList{"0100-Corvex Ser. Nr.: 98120-00471|12,5"});
     const QString prüfung = wert("SELECT PrüfungID FROM 0100_Prüfung WHERE AnlagenID = 2");
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Prüfung WHERE AnlagenID = 2"), "1");
-    EXPECT_EQ(wert("SELECT PrüfgerätName1 FROM 0100_Prüfung WHERE PrüfungID = ?", {prüfung}),
-              "0100-Corvex Ser. Nr.: 98120-00471");
-    EXPECT_EQ(wert("SELECT Erdungswiderstand FROM 0100_Prüfung WHERE PrüfungID = ?", {prüfung}), "12,5");
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100U_CertNic WHERE pid = ?", {prüfung}), "1");
-    EXPECT_EQ(wert("SELECT Group_Concat(Code, ' ') FROM 0100_Verteiler WHERE PrüfungID = ?", {prüfung}),
-              "0001 0002");
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Stromkreis s JOIN 0100_Verteiler v ON s.VerteilerID = "
-                   "v.VerteilerID WHERE v.PrüfungID = ?",
-                   {prüfung}),
-              "6");
+    EXPECT_EQ(
+        zeile("SELECT (SELECT Count(*) FROM 0100U_CertNic WHERE pid = ?), (SELECT Group_Concat(Code, ' ') "
+              "FROM 0100_Verteiler WHERE PrüfungID = ?), (SELECT Count(*) FROM 0100_Stromkreis s JOIN "
+              "0100_Verteiler v ON s.VerteilerID = v.VerteilerID WHERE v.PrüfungID = ?)",
+              {prüfung, prüfung, prüfung}),
+        "1|0001 0002|6");
     // The circuit of the inspection by board and circuit code.
     const QString kreis =
         "(SELECT StromkreisID FROM 0100_Stromkreis s JOIN 0100_Verteiler v ON s.VerteilerID = "

@@ -15,11 +15,13 @@ void Uebernahmeumgebung::SetUp() {
     laufschlüssel() = {200, 200, 300, 400};
 }
 
-void Uebernahmeumgebung::einlesen(const QList<Quellzeile>& zeilen, int messungID) const {
-    for (const Quellzeile& z : zeilen)
+void Uebernahmeumgebung::einlesen(const QStringList& zeilen, int messungID) const {
+    for (const QString& zeile : zeilen) {
+        const QStringList teile = zeile.split('|');
         ausführen(
             "INSERT INTO 0100_EinleseMessDaten (MessungID, Funktion, wert, Einheit) VALUES (?, ?, ?, ?)",
-            {messungID, z.funktion, z.wert, z.einheit});
+            {messungID, teile.value(0), teile.value(1), teile.value(2)});
+    }
 }
 
 void Uebernahmeumgebung::übernehmen(int messungID) const {
@@ -34,12 +36,30 @@ QStringList Uebernahmeumgebung::spalte(const QString& name) const {
     return werte;
 }
 
+// "A|B" as the select list "[A], [B]".
+static QString auswahl(const QString& spalten) {
+    return "[" + spalten.split('|').join("], [") + "]";
+}
+
+QStringList Uebernahmeumgebung::reihen(const QString& spalten) const {
+    return zeilen("SELECT " + auswahl(spalten) + " FROM [0100_Messung] ORDER BY MessID");
+}
+
 QStringList Uebernahmeumgebung::messIDs() const {
     return spalte("MessID");
 }
 
 QString Uebernahmeumgebung::grenzwert(const QString& spalte, const QString& messID) const {
     return wert("SELECT [" + spalte + "] FROM [0100_Grenzwert] WHERE MessID = ?", {messID});
+}
+
+QString Uebernahmeumgebung::grenzwerte(const QString& spalten, const QString& messID) const {
+    return felder("0100_Grenzwert", "MessID = " + messID, spalten);
+}
+
+QString Uebernahmeumgebung::felder(const QString& tabelle, const QString& bedingung,
+                                   const QString& spalten) const {
+    return zeile("SELECT " + auswahl(spalten) + " FROM [" + tabelle + "] WHERE " + bedingung);
 }
 
 } // namespace vemo::test

@@ -6,7 +6,6 @@
 #include "takeover/ProcMax.h"
 
 using namespace vemo;
-using test::Quellzeile;
 
 namespace {
 
@@ -32,79 +31,61 @@ protected:
     }
 
     // Maps the block onto the given keys, as the take-over does for a certificate inspection.
-    void zertifikat(const QList<Quellzeile>& zeilen, int stromkreis = 400, int verteiler = 300,
-                    int prüfung = 200) {
+    void zertifikat(const QStringList& zeilen, int stromkreis = 400, int verteiler = 300, int prüfung = 200) {
         sql("DELETE FROM \"0100_EinleseMessDaten\";");
         einlesen(zeilen, 7);
         MesswertÜbernehmenZertifikat(7, stromkreis, verteiler, prüfung);
     }
-    QString kreis(const QString& spalte) const {
-        return wert("SELECT [" + spalte + "] FROM [0100_Messung] WHERE StromkreisID = 400 ORDER BY MessID");
+    // Columns of the circuit's first measurement row, of the board, of the certificate record.
+    QString kreis(const QString& spalten) const {
+        return felder("0100_Messung", "StromkreisID = 400 ORDER BY MessID", spalten);
     }
-    QString verteiler(const QString& spalte) const {
-        return wert("SELECT [" + spalte + "] FROM [0100_Verteiler] WHERE VerteilerID = 300");
+    QString verteiler(const QString& spalten) const {
+        return felder("0100_Verteiler", "VerteilerID = 300", spalten);
     }
-    QString anlage(const QString& spalte) const {
-        return wert("SELECT [" + spalte + "] FROM [0100U_CertNic] WHERE pid = 200");
-    }
+    QString anlage(const QString& spalten) const { return felder("0100U_CertNic", "pid = 200", spalten); }
 };
 
 TEST_F(ZertifikatTest, EachLevelKeepsItsWorstValue) {
-    zertifikat({{"T min", "5", "MOhm"}, {"T max", "0,4", "Ohm"}, {"T board", "0,4", "Ohm"}});
-    zertifikat({{"T min", "3", "MOhm"}, {"T max", "0,35", "Ohm"}, {"T board", "0,6", "Ohm"}});
-    EXPECT_EQ(kreis("RISO"), "3");
-    EXPECT_EQ(kreis("LOOPRS"), "0,4");
+    zertifikat({"T min|5|MOhm", "T max|0,4|Ohm", "T board|0,4|Ohm"});
+    zertifikat({"T min|3|MOhm", "T max|0,35|Ohm", "T board|0,6|Ohm"});
+    EXPECT_EQ(kreis("RISO|LOOPRS"), "3|0,4");
     EXPECT_EQ(anlage("ZsMax"), "0,4");
-    EXPECT_EQ(verteiler("IpfMax"), "0,4");
-    EXPECT_EQ(verteiler("ZsMax"), "0,6");
+    EXPECT_EQ(verteiler("IpfMax|ZsMax"), "0,4|0,6");
 
-    zertifikat({{"T min", "7", "MOhm"}, {"T max", "1.5", "Ohm"}, {"T root", "12", "Ohm"}});
-    EXPECT_EQ(kreis("RISO"), "3");
-    EXPECT_EQ(kreis("LOOPRS"), "1.5");
+    // The installation's procedure writes no circuit.
+    zertifikat({"T min|7|MOhm", "T max|1.5|Ohm", "T root|12|Ohm"});
+    EXPECT_EQ(kreis("RISO|LOOPRS|LOW"), "3|1.5|");
     EXPECT_EQ(anlage("RaMax"), "12");
-    EXPECT_EQ(kreis("LOW"), ""); // the installation's procedure writes no circuit
     EXPECT_EQ(anzahl("0100_Messung"), 1);
 }
 
 // A value with a sign is judged by its sign alone: one marked worse always wins, even over another
 // marked value, and a plain number never beats a marked old value.
 TEST_F(ZertifikatTest, SignedValuesAreDecidedByTheirSign) {
-    zertifikat({{"T board", "150", "A"}, {"T min", "200", "MOhm"}});
-    zertifikat({{"T board", ">3", "A"}, {"T min", ">500", "MOhm"}});
-    EXPECT_EQ(verteiler("ZsMax"), ">3");
-    EXPECT_EQ(kreis("RISO"), "200");
-    zertifikat({{"T board", "5000", "A"}, {"T min", "<1", "MOhm"}});
-    EXPECT_EQ(verteiler("ZsMax"), ">3");
-    EXPECT_EQ(kreis("RISO"), "<1");
-    zertifikat({{"T board", ">2", "A"}, {"T min", "0,1", "MOhm"}, {"T min", "<0,5", "MOhm"}});
-    EXPECT_EQ(verteiler("ZsMax"), ">2");
-    EXPECT_EQ(kreis("RISO"), "<0,5");
+    zertifikat({"T board|150|A", "T min|200|MOhm"});
+    zertifikat({"T board|>3|A", "T min|>500|MOhm"});
+    EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">3 200");
+    zertifikat({"T board|5000|A", "T min|<1|MOhm"});
+    EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">3 <1");
+    zertifikat({"T board|>2|A", "T min|0,1|MOhm", "T min|<0,5|MOhm"});
+    EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">2 <0,5");
 }
 
 // The trip time comes first and waits for its factor row, which picks the column of the circuit
-// and of the board; a handler of another factor leaves everything alone.
+// and of the board; a handler of another factor leaves everything alone. The kept time itself is
+// written nowhere.
 TEST_F(ZertifikatTest, TheFactorRowPlacesTheTripTime) {
-    zertifikat({{"RCD t, M, t", "18", "ms"}, {"RCD t, E, Idn", "30", "mA"}, {"RCD t, E, mult.:", "x1", ""}});
-    EXPECT_EQ(kreis("FIT_x1"), "18");
-    EXPECT_EQ(verteiler("FIT_x1"), "18");
-    EXPECT_EQ(kreis("FIT_x5"), "");
-    EXPECT_EQ(kreis("FIT_x12"), "");
-    EXPECT_EQ(verteiler("FIT_x5"), "");
-    EXPECT_EQ(kreis("FIT"), ""); // the kept time itself is written nowhere
+    zertifikat({"RCD t, M, t|18|ms", "RCD t, E, Idn|30|mA", "RCD t, E, mult.:|x1|"});
+    EXPECT_EQ(kreis("FIT_x1|FIT_x5|FIT_x12|FIT"), "18|||");
+    EXPECT_EQ(verteiler("FIT_x1|FIT_x5"), "18|");
 
-    zertifikat({{"RCD t, M, t", "12", "ms"},
-                {"RCD t, E, mult.:", "x1", ""},
-                {"RCD t, M, t", "9", "ms"},
-                {"RCD t, E, mult.:", "x5", ""},
-                {"RCD t, M, t", ">300", "ms"},
-                {"RCD t, E, mult.:", "x1/2", ""}});
-    EXPECT_EQ(kreis("FIT_x1"), "18");
-    EXPECT_EQ(kreis("FIT_x5"), "9");
-    EXPECT_EQ(kreis("FIT_x12"), ">300");
+    zertifikat({"RCD t, M, t|12|ms", "RCD t, E, mult.:|x1|", "RCD t, M, t|9|ms", "RCD t, E, mult.:|x5|",
+                "RCD t, M, t|>300|ms", "RCD t, E, mult.:|x1/2|"});
+    EXPECT_EQ(kreis("FIT_x1|FIT_x5|FIT_x12"), "18|9|>300");
     EXPECT_EQ(verteiler("FIT_x12"), ">300");
-    zertifikat({{"RCD t, M, t", "25", "ms"}, {"RCD t, E, mult.:", "x1", ""}});
-    EXPECT_EQ(kreis("FIT_x1"), "25");
-    EXPECT_EQ(verteiler("FIT_x1"), "25");
+    zertifikat({"RCD t, M, t|25|ms", "RCD t, E, mult.:|x1|"});
+    EXPECT_EQ(kreis("FIT_x1") + " " + verteiler("FIT_x1"), "25 25");
     EXPECT_EQ(anzahl("0100_Messung"), 1);
 }
 
@@ -112,13 +93,13 @@ TEST_F(ZertifikatTest, TheFactorRowPlacesTheTripTime) {
 // an RCD handler; a board or certificate record that is missing is not made.
 TEST_F(ZertifikatTest, OnlyTheCircuitGetsAMissingRecord) {
     sql(R"(DELETE FROM "0100_Messung"; DELETE FROM "0100U_CertNic";)");
-    zertifikat({{"T max", "0,8", "Ohm"}, {"T root", "20", "Ohm"}});
+    zertifikat({"T max|0,8|Ohm", "T root|20|Ohm"});
     EXPECT_EQ(wert("SELECT StromkreisID || ' ' || LOOPRS FROM 0100_Messung WHERE MessID >= 10000"),
               "400 0,8");
     EXPECT_EQ(anzahl("0100U_CertNic"), 0);
 
     sql(R"(DELETE FROM "0100_Messung";)");
-    zertifikat({{"RCD t, M, t", "40", "ms"}, {"RCD t, E, mult.:", "x5", ""}});
+    zertifikat({"RCD t, M, t|40|ms", "RCD t, E, mult.:|x5|"});
     EXPECT_EQ(wert("SELECT StromkreisID || ' ' || FIT_x5 FROM 0100_Messung"), "400 40");
     EXPECT_EQ(anzahl("0100_Messung"), 1);
     EXPECT_EQ(verteiler("FIT_x5"), "40");
@@ -127,44 +108,30 @@ TEST_F(ZertifikatTest, OnlyTheCircuitGetsAMissingRecord) {
 // A read-in row without circuit, or without board, passes over the values of the missing levels and
 // still writes those of the installation.
 TEST_F(ZertifikatTest, ALevelWithoutKeyIsPassedOver) {
-    zertifikat({{"T max", "0,9", "Ohm"}, {"RCD t, M, t", "20", "ms"}, {"RCD t, E, mult.:", "x1", ""}}, 0);
-    EXPECT_EQ(kreis("LOOPRS"), "");
-    EXPECT_EQ(kreis("FIT_x1"), "");
+    zertifikat({"T max|0,9|Ohm", "RCD t, M, t|20|ms", "RCD t, E, mult.:|x1|"}, 0);
+    EXPECT_EQ(kreis("LOOPRS|FIT_x1"), "|");
     EXPECT_EQ(anzahl("0100_Messung"), 1);
-    EXPECT_EQ(verteiler("IpfMax"), "0,9");
-    EXPECT_EQ(verteiler("FIT_x1"), "20");
+    EXPECT_EQ(verteiler("IpfMax|FIT_x1"), "0,9|20");
     EXPECT_EQ(anlage("ZsMax"), "0,9");
 
-    zertifikat({{"T max", "1,9", "Ohm"},
-                {"T board", "1,9", "Ohm"},
-                {"RCD t, M, t", "30", "ms"},
-                {"RCD t, E, mult.:", "x1", ""}},
-               0, 0);
-    EXPECT_EQ(verteiler("IpfMax"), "0,9");
-    EXPECT_EQ(verteiler("ZsMax"), "");
-    EXPECT_EQ(verteiler("FIT_x1"), "20");
+    zertifikat({"T max|1,9|Ohm", "T board|1,9|Ohm", "RCD t, M, t|30|ms", "RCD t, E, mult.:|x1|"}, 0, 0);
+    EXPECT_EQ(verteiler("IpfMax|ZsMax|FIT_x1"), "0,9||20");
     EXPECT_EQ(anlage("ZsMax"), "1,9");
 
     // A circuit key with no board is no circuit of a certificate either.
-    zertifikat({{"T max", "2,9", "Ohm"}}, 400, 0);
-    EXPECT_EQ(kreis("LOOPRS"), "");
-    EXPECT_EQ(anlage("ZsMax"), "2,9");
+    zertifikat({"T max|2,9|Ohm"}, 400, 0);
+    EXPECT_EQ(kreis("LOOPRS") + " " + anlage("ZsMax"), " 2,9");
 }
 
 // What the certificate does not know goes nowhere, silently; a mapping that names a column that
 // does not exist ends the block there, keeping what came before.
 TEST_F(ZertifikatTest, UnknownFunctionsAndProceduresAreDropped) {
-    zertifikat({{"R ISO, M, U", "500", "V"},
-                {"T fremd", "0,3", "Ohm"},
-                {"T unbekannt", "0,3", "Ohm"},
-                {"T max", "0,5", "Ohm"}});
-    EXPECT_EQ(kreis("LOOPRS"), "0,5");
-    EXPECT_EQ(kreis("LOW"), "");
+    zertifikat({"R ISO, M, U|500|V", "T fremd|0,3|Ohm", "T unbekannt|0,3|Ohm", "T max|0,5|Ohm"});
+    EXPECT_EQ(kreis("LOOPRS|LOW"), "0,5|");
     EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Messung WHERE UISO <> '' OR VISO <> ''"), "0");
 
-    zertifikat({{"T min", "4", "MOhm"}, {"T kaputt", "1", "Ohm"}, {"T max", "0,7", "Ohm"}});
-    EXPECT_EQ(kreis("RISO"), "4");
-    EXPECT_EQ(kreis("LOOPRS"), "0,5");
+    zertifikat({"T min|4|MOhm", "T kaputt|1|Ohm", "T max|0,7|Ohm"});
+    EXPECT_EQ(kreis("RISO|LOOPRS"), "4|0,5");
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
 }
 
