@@ -57,7 +57,7 @@ TEST_F(ZemakAnsichtTest, FensterZeigtDenFortschrittUndDerKnopfBrichtAb) {
     const Zemakvariante& v = *zemakVariante(selektor::Zemak3720);
     auto instrument = speicherleitungEinstecken();
     // The instrument pauses after a third of its reply, so that the window is seen mid-transfer.
-    sim::ZemakGerät gerät(v, sim::ZemakSpeicher::erzeugen(v, 40), {{9600, 0}, {0, -1, 700, 5000}});
+    sim::ZemakGerät gerät(sim::ZemakSpeicher::erzeugen(v, 40), {{9600, 0}, {0, -1, 700, 5000}});
     sim::PortLeitung leitung(*instrument, gerät);
     QString titel, zustand, hinweis, prozent;
     int wert = 0, max = 0;

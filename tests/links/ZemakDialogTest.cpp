@@ -43,7 +43,7 @@ TEST_F(ZemakDialogTest, DerBalkenLaeuftBisZurAngekuendigtenLaenge) {
     const Zemakvariante& v = variante(selektor::Zemak);
     auto instrument = leitungEinstecken();
     // One record; the instrument pauses behind the count, so that a tick sees the reply half come.
-    sim::ZemakGerät gerät(v, sim::ZemakSpeicher::erzeugen(v, 1), {{9600, 0}, {0, -1, 20, 700}});
+    sim::ZemakGerät gerät(sim::ZemakSpeicher::erzeugen(v, 1), {{9600, 0}, {0, -1, 20, 700}});
     sim::PortLeitung leitung(*instrument, gerät);
     qsizetype p = 0;
     int maxHalb = 0, wertHalb = 0;
@@ -86,7 +86,7 @@ TEST_F(ZemakDialogTest, EinFalscherZaehlerIstEinLaufzeitfehlerDerAbbricht) {
         sim::ZemakSpeicher speicher = drei;
         speicher.kopf = kopf;
         auto instrument = leitungEinstecken();
-        sim::ZemakGerät gerät(v, speicher, {{0, 0}, {}});
+        sim::ZemakGerät gerät(speicher, {{0, 0}, {}});
         sim::PortLeitung leitung(*instrument, gerät);
 
         übertragenMitPort(selektor::Zemak3720);
@@ -110,7 +110,7 @@ TEST_F(ZemakDialogTest, LeitungsfehlerMachenTaubBisZumAbbruch) {
         modul().Abbruchmerker = 0;
         ruvoVorbelegen();
         auto instrument = leitungEinstecken();
-        sim::ZemakGerät gerät(v, sim::ZemakSpeicher::erzeugen(v, 20), {{9600, 0}, {}});
+        sim::ZemakGerät gerät(sim::ZemakSpeicher::erzeugen(v, 20), {{9600, 0}, {}});
         sim::PortLeitung leitung(*instrument, gerät);
         QByteArray pufferDanach;
         bool nochOffen = false;
@@ -146,7 +146,7 @@ TEST_F(ZemakDialogTest, LeitungsfehlerMachenTaubBisZumAbbruch) {
     m_ui.meldungen.clear();
     modul().Abbruchmerker = 0;
     auto instrument = leitungEinstecken();
-    sim::ZemakGerät gerät(v, sim::ZemakSpeicher::erzeugen(v, 2), {{9600, 0}, {}});
+    sim::ZemakGerät gerät(sim::ZemakSpeicher::erzeugen(v, 2), {{9600, 0}, {}});
     sim::PortLeitung leitung(*instrument, gerät);
     übertragen(selektor::Zemak3710B, [&](frmZEMAK& form) {
         sobald(

@@ -35,7 +35,7 @@ protected:
         auto speicher = sim::ZemakSpeicher::erzeugen(v, 3);
         speicher.kennung = kennung;
         m_instrumentenende = speicherleitungEinstecken();
-        m_gerät = std::make_unique<sim::ZemakGerät>(v, speicher, sim::Verhalten{{9600, 0}, {}});
+        m_gerät = std::make_unique<sim::ZemakGerät>(speicher, sim::Verhalten{{9600, 0}, {}});
         m_leitung = std::make_unique<sim::PortLeitung>(*m_instrumentenende, *m_gerät);
     }
     QString init(const QString& name) const { return wert("SELECT wert FROM init WHERE name = ?", {name}); }

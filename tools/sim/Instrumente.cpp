@@ -60,7 +60,7 @@ Instrumenttyp zemak(int code) {
                 auto speicher = ZemakSpeicher::ausArbeitsdatei(datei, variante, fehler);
                 if (!speicher)
                     return nullptr;
-                return std::make_unique<ZemakGerät>(variante, std::move(*speicher), v);
+                return std::make_unique<ZemakGerät>(std::move(*speicher), v);
             }};
 }
 

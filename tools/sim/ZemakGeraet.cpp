@@ -13,10 +13,9 @@ const QByteArray Stellbefehl = "XS,";
 
 } // namespace
 
-ZemakGerät::ZemakGerät(const Zemakvariante& variante, ZemakSpeicher speicher, Verhalten verhalten,
-                       QObject* parent)
-    : Instrument(parent), m_variante(variante), m_speicher(std::move(speicher)),
-      m_störungen(verhalten.störungen), m_schlange([this](const QByteArray& b) {
+ZemakGerät::ZemakGerät(ZemakSpeicher speicher, Verhalten verhalten, QObject* parent)
+    : Instrument(parent), m_speicher(std::move(speicher)), m_störungen(verhalten.störungen),
+      m_schlange([this](const QByteArray& b) {
           senden(b);
           m_gesendet += b.size();
       }),

@@ -18,8 +18,8 @@ namespace vemo::sim {
 // reads no umlauts in class names.)
 class ZemakGerät : public Instrument {
 public:
-    ZemakGerät(const Zemakvariante& variante, ZemakSpeicher speicher, Verhalten verhalten = {{9600, 0}, {}},
-               QObject* parent = nullptr);
+    explicit ZemakGerät(ZemakSpeicher speicher, Verhalten verhalten = {{9600, 0}, {}},
+                        QObject* parent = nullptr);
 
     void empfangen(const QByteArray& bytes) override;
     void tasteGedrückt() override {}
@@ -41,7 +41,6 @@ private:
     // The cable is out: the instrument hears nothing, so it answers nothing.
     bool ausgesteckt() const;
 
-    const Zemakvariante& m_variante;
     ZemakSpeicher m_speicher;
     Störungen m_störungen;
     Sendeschlange m_schlange;
