@@ -12,10 +12,11 @@ class Verbindung;
 }
 
 // Writes that stand or fall together: what is written while the object lives commits at commit(),
-// and is rolled back when it ends without one, as when an error leaves the unit half done. It takes
-// the database's write lock at once, waiting for another writer under the busy timeout, so that a
-// lock held elsewhere stops the unit before it has written anything. Record sets that change rows
-// meanwhile take their holds inside it and commit nothing of their own.
+// and is rolled back when it ends without one, as when an error leaves the unit half done. On a
+// database file it takes the write lock at once, waiting for another writer under the busy timeout,
+// so that a lock held elsewhere stops the unit before it has written anything; on a server each row
+// it edits is locked, and waits the same way. Record sets that change rows meanwhile take their
+// holds inside it and commit nothing of their own.
 class Transaktion {
 public:
     explicit Transaktion(const Datenbank& db);
