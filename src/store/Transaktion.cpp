@@ -22,6 +22,10 @@ void Transaktion::commit() {
     std::exchange(m_v, nullptr)->sperreAbgeben();
 }
 
+void Transaktion::bereichSperren(const QString& bereich) {
+    m_v->bereichSperren(bereich);
+}
+
 bool istSpeicherausfall(const Fehler& f) {
     switch (f.nummer()) {
     case fehler::Gesperrt:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <memory>
 
 namespace vemo {
@@ -25,6 +26,9 @@ public:
     Transaktion& operator=(const Transaktion&) = delete;
 
     void commit(); // raises the store's error when the commit fails; nothing is written then
+    // Holds the part of the data the name stands for until the unit ends: a unit of another
+    // workplace that names it too waits for this one, under the busy timeout.
+    void bereichSperren(const QString& bereich);
 
 private:
     std::shared_ptr<detail::Verbindung> m_v;

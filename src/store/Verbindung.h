@@ -103,6 +103,10 @@ public:
     virtual QStringList tabellen() = 0;
     // After rows were written with their keys: keys the store issues itself follow on from theirs.
     virtual void schlüsselNachziehen() {}
+    // Holds a named part of the data until the transaction ends: another workplace asking for the
+    // same name waits, as long as for a lock. In a file the transaction holds the whole database
+    // already, so that a name adds nothing there.
+    virtual void bereichSperren(const QString& bereich) { (void)bereich; }
 
     // A prepared statement, kept for reuse. Callers reset it through Schritt.
     Anweisung anweisung(const QString& sql);

@@ -7,6 +7,7 @@
 #include "grid/EinleseDatenController.h"
 #include "parsers/Primitive.h"
 #include "parsers/PruefgeraetEintragen.h"
+#include "platform/Fehler.h"
 #include "platform/Ui.h"
 #include "store/Datenbank.h"
 #include "store/Transaktion.h"
@@ -25,6 +26,19 @@ namespace vemo {
 namespace {
 
 const QString EnglischUK = "English (United Kingdom)";
+
+// Locks the read-in row and reads it again; false when it is gone.
+bool nochEingelesen(Recordset& z) {
+    try {
+        z.Edit();
+    } catch (const Fehler& f) {
+        if (f.nummer() != fehler::DatensatzGelöscht)
+            throw;
+        return false;
+    }
+    z.CancelUpdate();
+    return true;
+}
 
 bool gesetzt(const QVariant& schlüssel) {
     return !istLeer(schlüssel) && zahl(schlüssel) != 0;
@@ -308,8 +322,16 @@ void Lauf::zeilenÜbernehmen(Recordset& z) {
 
 // Everything a read-in row causes, and its leaving the read-in table, commits together or not at
 // all: a run broken off anywhere leaves each row either taken over whole or still read in.
+//
+// Other workplaces may take over the same rows at the same time. Taking a row over writes into the
+// rows of its customer that follow it, so one customer's rows are taken by one workplace at a time;
+// a row another workplace took over while this one waited is gone and is passed by, and one it
+// assigned on meanwhile is taken as it stands now.
 void Lauf::zeileÜbernehmen(Recordset& z) {
     Transaktion zeile(db());
+    zeile.bereichSperren("0100_EinleseDaten KundeID " + z.Text("KundeID"));
+    if (!nochEingelesen(z) || !genugZugeordnet(z))
+        return;
     anlage(z);
     prüfung(z);
     if (!gleich(z.Field("GeräteID"), m_letztesGerät)) {

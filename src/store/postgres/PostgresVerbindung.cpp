@@ -355,6 +355,14 @@ QStringList PostgresVerbindung::tabellen() {
     return namen;
 }
 
+// A lock of the server's own that names no row, taken by a number the name hashes to; two names
+// sharing a number at worst wait for each other.
+void PostgresVerbindung::bereichSperren(const QString& bereich) {
+    Schritt s(anweisung("SELECT pg_advisory_xact_lock(hashtextextended(?1, 0))"));
+    s.binden(1, bereich);
+    s.weiter();
+}
+
 QString PostgresVerbindung::tabellenName(const QString& name) {
     Schritt alle(anweisung("SELECT c.relname FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace "
                            "WHERE n.nspname = current_schema() AND c.relkind IN ('r', 'v', 'p', 'm')"));

@@ -51,6 +51,7 @@ public:
     qint64 letzteRowid() const override { return 0; } // each INSERT gives its rowid back
     QStringList tabellen() override;
     void schlüsselNachziehen() override { m_sitzung->befehl("CALL vemo_folgen_nachziehen()"); }
+    void bereichSperren(const QString& bereich) override;
 
     // The table and column a result column comes from, by the server's numbers for them.
     std::pair<QString, QString> herkunft(Oid tabelle, int spalte, QString* typ);
