@@ -86,8 +86,10 @@ QWidget* Hauptfenster::eigenschaftenBauen() {
         h->addWidget(knopf);
         form->addRow(label, h);
     };
+    // A file is picked with "...", an office's server is typed as its URI (postgresql://...).
     m_datenbank = new QLineEdit;
-    m_datenbank->setReadOnly(true);
+    m_datenbank->setObjectName("Datenbank");
+    connect(m_datenbank, &QLineEdit::editingFinished, this, &Hauptfenster::datenbankEingegeben);
     auto* wählen = new QPushButton("...");
     wählen->setObjectName("DatenbankWaehlen");
     connect(wählen, &QPushButton::clicked, this, &Hauptfenster::datenbankWählen);
@@ -226,6 +228,17 @@ bool Hauptfenster::datenbankWählen() {
     const auto pfad =
         ui().dateiÖffnen({xText("Datenbank"), filter, QFileInfo(m_datenbank->text()).absolutePath(), "db"});
     return pfad && datenbankSetzen(*pfad);
+}
+
+// A name typed into the field opens that database; one that cannot be opened leaves the database
+// in use open, and the field shows it again.
+void Hauptfenster::datenbankEingegeben() {
+    const QString name = m_datenbank->text().trimmed();
+    const QString bisher = m_komponente.vemotrixDB().istOffen() ? gemerkt("Datenbank") : QString();
+    if (name == bisher)
+        return;
+    if (name.isEmpty() || !datenbankSetzen(name))
+        m_datenbank->setText(bisher);
 }
 
 // The key of the newest read-in device; empty when there is none.

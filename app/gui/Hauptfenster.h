@@ -47,6 +47,7 @@ private:
     void befehl(const Befehl& b);
     bool datenbankDa();
     bool datenbankWählen();
+    void datenbankEingegeben();
     bool datenbankBrauchbar(const QString& pfad) const;
     void nachEinlesen(const std::function<void()>& einlesen);
     QString neuestesGerät() const;

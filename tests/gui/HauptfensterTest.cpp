@@ -4,8 +4,9 @@
 #include "ansichten/Ansichten.h"
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
-#include "support/Leitung.h"
 #include "platform/Version.h"
+#include "store/Schema.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include <QAction>
@@ -66,16 +67,20 @@ TEST_F(HauptfensterTest, TheSettingsCommandShowsTheInstrumentOnThePort) {
     EXPECT_EQ(wert("SELECT wert FROM init WHERE name = 'Kundencodestellen3720'"), "2") << "saved on closing";
 }
 
-// A file that is no database is refused and the database before it stays open and usable; the
-// field shows the database in use and cannot be typed into.
+// A file that is no database, picked or typed, and a server that cannot be reached are refused,
+// and the database before them stays open and usable; the field shows the database in use.
 TEST_F(HauptfensterTest, AFileThatIsNoDatabaseLeavesTheOpenOneInUse) {
     spracheDatenbankAnlegen(m_dir.path());
     vemo0100Modul15a komponente(m_ui, m_settings);
     Hauptfenster fenster(komponente, m_settings, m_dbPfad);
-    auto* feld = fenster.findChild<QLineEdit*>();
+    auto* feld = fenster.findChild<QLineEdit*>("Datenbank");
     ASSERT_TRUE(feld);
-    EXPECT_TRUE(feld->isReadOnly());
     EXPECT_EQ(feld->text(), m_dbPfad);
+    feld->setText("postgresql://niemand@/vemotrix?host=" + pfad("kein-server"));
+    emit feld->editingFinished();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(feld->text(), m_dbPfad);
+    m_ui.meldungen.clear();
 
     QFile kein(pfad("notizen.db"));
     ASSERT_TRUE(kein.open(QIODevice::WriteOnly));
@@ -90,6 +95,11 @@ TEST_F(HauptfensterTest, AFileThatIsNoDatabaseLeavesTheOpenOneInUse) {
 
     auslösen(fenster, "Einlesedaten");
     EXPECT_EQ(m_ui.texte().last(), "Es sind keine Eilnlesedaten vorhanden");
+
+    datenbankAnlegen(pfad("zweite.db"), false);
+    feld->setText(pfad("zweite.db"));
+    emit feld->editingFinished();
+    EXPECT_EQ(m_settings.GetSetting("Host", "Datenbank"), pfad("zweite.db")) << "a typed name is taken";
 }
 
 // Without a database a command that needs one says so and offers the choice; one chosen there
