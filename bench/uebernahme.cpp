@@ -1,8 +1,9 @@
 // The take-over of read-in rows with seven values each into the inspection records, for 5,000 and
-// 10,000 rows: the rows spread over boards of ten circuits, as a dump of a building does. Beside it
-// the least such a run can cost: one bare SQLite transaction a read-in row, with as many written
-// rows as the run wrote for each.
+// 10,000 rows in a database file and for 1,000 and 2,000 on a database server: the rows spread over
+// boards of ten circuits, as a dump of a building does. Beside each the least such a run can cost:
+// one bare transaction a read-in row, with as many written rows as the run wrote for each.
 #include "takeover/Uebernahme.h"
+#include "Server.h"
 #include "core/ModulState.h"
 #include "core/Schluesselvergabe.h"
 #include "grid/EinleseDatenController.h"
@@ -10,23 +11,34 @@
 #include "platform/SettingsStore.h"
 #include "store/Datenbank.h"
 #include "store/Schema.h"
+#include "store/Transaktion.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <map>
+#include <optional>
 #include <sqlite3.h>
 
 using namespace vemo;
+using test::Motor;
 
 namespace {
+
+// A fresh database of the engine for one run; empty when the engine cannot be had.
+QString neueDatenbank(benchmark::State& state, Motor motor, const QTemporaryDir& dir, bool demo) {
+    if (motor == Motor::Server)
+        return bench::serverdatenbank(state, demo);
+    datenbankAnlegen(dir.filePath("v.db"), demo);
+    return dir.filePath("v.db");
+}
 
 QString vierstellig(int n) {
     return QString("%1").arg(n, 4, 10, QChar('0'));
 }
 
 void einleseZeilenSchreiben(int anzahl) {
-    db().Execute("BEGIN");
+    Transaktion alle(db());
     db().Execute("INSERT INTO 0100_EinleseGeräteDaten VALUES (1, '0100-Corvex', '  C12345678', 1, '')");
     for (int i = 1; i <= anzahl; ++i) {
         db().Execute("INSERT INTO 0100_EinleseDaten (MessungID, GeräteID, KundeID, AnlageID, VerteilerNr, "
@@ -38,7 +50,7 @@ void einleseZeilenSchreiben(int anzahl) {
             "'657', 'A'), (?1, 'Ri', '0,28', 'Ohm'), (?1, 'Ri Ik', '0,82', 'kA')",
             {i});
     }
-    db().Execute("COMMIT");
+    alle.commit();
 }
 
 struct Geschrieben {
@@ -46,9 +58,21 @@ struct Geschrieben {
     qint64 zeilen = 0; // rows written, those of triggers besides
 };
 
-std::map<long, Geschrieben>& schreibenDerLäufe() {
-    static std::map<long, Geschrieben> läufe;
+std::map<std::pair<Motor, long>, Geschrieben>& schreibenDerLäufe() {
+    static std::map<std::pair<Motor, long>, Geschrieben> läufe;
     return läufe;
+}
+
+// What the run of that engine and size wrote a read-in row, apart from the row and its values;
+// nothing where that run has not been measured.
+std::optional<Geschrieben> geschriebenJeZeile(benchmark::State& state, Motor motor) {
+    const long zeilen = long(state.range(0));
+    const auto lauf = schreibenDerLäufe().find({motor, zeilen});
+    if (lauf == schreibenDerLäufe().end()) {
+        state.SkipWithError("the run with this argument has not been measured");
+        return {};
+    }
+    return Geschrieben{lauf->second.commits, lauf->second.zeilen / zeilen - 8};
 }
 
 // The floor of a run that commits once a read-in row: per row one transaction that writes as many
@@ -57,12 +81,10 @@ std::map<long, Geschrieben>& schreibenDerLäufe() {
 // synchronous=NORMAL.
 void Zeilentransaktionen(benchmark::State& state) {
     const long zeilen = long(state.range(0));
-    const auto lauf = schreibenDerLäufe().find(zeilen);
-    if (lauf == schreibenDerLäufe().end()) {
-        state.SkipWithError("the run with this argument has not been measured");
+    const auto lauf = geschriebenJeZeile(state, Motor::Sqlite);
+    if (!lauf)
         return;
-    }
-    const qint64 jeZeile = lauf->second.zeilen / zeilen - 8; // the read-in row and its values apart
+    const qint64 jeZeile = lauf->zeilen;
     for (auto _ : state) {
         state.PauseTiming();
         QTemporaryDir dir;
@@ -106,10 +128,42 @@ void Zeilentransaktionen(benchmark::State& state) {
         state.ResumeTiming();
     }
     state.counters["rows written a row"] = double(jeZeile + 8);
-    state.counters["commits of the run"] = double(lauf->second.commits);
+    state.counters["commits of the run"] = double(lauf->commits);
 }
 
-void Uebernahme(benchmark::State& state) {
+// The same floor on the server, by bare libpq on the same socket.
+void ZeilentransaktionenServer(benchmark::State& state) {
+    const long zeilen = long(state.range(0));
+    const auto lauf = geschriebenJeZeile(state, Motor::Server);
+    if (!lauf)
+        return;
+    for (auto _ : state) {
+        state.PauseTiming();
+        QTemporaryDir dir;
+        const QString uri = bench::serverdatenbank(state, false);
+        modul().db = Datenbank::OpenDatabase(uri);
+        einleseZeilenSchreiben(int(zeilen));
+        modul().db.Close();
+        const bench::Roh roh(uri);
+        roh.ausführen("INSERT INTO idincrement VALUES (1, 0, '0100_Messung', 10000)");
+        roh.vorbereiten("messung", "INSERT INTO \"0100_messung\" (stromkreisid, riso) VALUES ($1, '245')");
+        roh.vorbereiten("zaehler", "UPDATE idincrement SET lastid = lastid + 1 WHERE idincrementid = 1");
+        roh.vorbereiten("loeschen", "DELETE FROM \"0100_einlesedaten\" WHERE messungid = $1");
+        state.ResumeTiming();
+        for (long zeile = 1; zeile <= zeilen; ++zeile) {
+            const QByteArray schlüssel = QByteArray::number(qlonglong(zeile));
+            roh.ausführen("BEGIN");
+            for (qint64 i = 0; i < lauf->zeilen; ++i)
+                i % 2 ? roh.schritt("zaehler") : roh.schritt("messung", schlüssel);
+            roh.schritt("loeschen", schlüssel);
+            roh.ausführen("COMMIT");
+        }
+    }
+    state.counters["rows written a row"] = double(lauf->zeilen + 8);
+    state.counters["commits of the run"] = double(lauf->commits);
+}
+
+void Uebernahme(benchmark::State& state, Motor motor) {
     KonsolenUi ui;
     SpeicherSettingsStore settings;
     modul().ui = &ui;
@@ -120,8 +174,10 @@ void Uebernahme(benchmark::State& state) {
         state.PauseTiming();
         QTemporaryDir dir;
         NeueID("", "");
-        datenbankAnlegen(dir.filePath("v.db"), true);
-        modul().db = Datenbank::OpenDatabase(dir.filePath("v.db"));
+        const QString name = neueDatenbank(state, motor, dir, true);
+        if (name.isEmpty())
+            return;
+        modul().db = Datenbank::OpenDatabase(name);
         modul().Datenbankverzeichnis = dir.path();
         einleseZeilenSchreiben(zeilen);
         EinleseDatenController form; // the refresh before the button is the user's, not the run's
@@ -131,7 +187,7 @@ void Uebernahme(benchmark::State& state) {
         form.übernehmenKlick();
         state.PauseTiming();
         const qint64 commits = db().commits() - commitsVorher;
-        schreibenDerLäufe()[zeilen] = {commits, db().änderungen() - änderungenVorher};
+        schreibenDerLäufe()[{motor, zeilen}] = {commits, db().änderungen() - änderungenVorher};
         NeueID("", "");
         modul().db.Close();
         state.ResumeTiming();
@@ -142,8 +198,18 @@ void Uebernahme(benchmark::State& state) {
 
 } // namespace
 
-BENCHMARK(Uebernahme)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond)->Iterations(2);
+BENCHMARK_CAPTURE(Uebernahme, Datei, Motor::Sqlite)
+    ->Arg(5000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(2);
 BENCHMARK(Zeilentransaktionen)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond)->Iterations(2);
+BENCHMARK_CAPTURE(Uebernahme, Server, Motor::Server)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(2);
+BENCHMARK(ZeilentransaktionenServer)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond)->Iterations(2);
 
 int main(int argc, char** argv) {
     // The take-over runs under a QApplication, which wants a window system; a benchmark machine often
