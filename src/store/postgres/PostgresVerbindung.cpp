@@ -147,8 +147,8 @@ bool PostgresBefehl::weiter() {
         werte.push_back(w ? w->constData() : nullptr);
     m_ergebnis = m_sitzung->ausführen(
         [&] {
-            return PQexecPrepared(m_sitzung->conn(), m_name.constData(), int(werte.size()), werte.data(),
-                                  nullptr, nullptr, 0);
+            return PQsendQueryPrepared(m_sitzung->conn(), m_name.constData(), int(werte.size()), werte.data(),
+                                       nullptr, nullptr, 0);
         },
         m_text);
     const QByteArray art = PQcmdStatus(m_ergebnis.get());
@@ -232,16 +232,41 @@ Sitzung::Ergebnis Sitzung::befehl(const QString& sql) {
     return prüfen(PQexec(m_conn, sql.toUtf8().constData()), sql);
 }
 
-Sitzung::Ergebnis Sitzung::ausführen(const std::function<PGresult*()>& aufruf, const QString& sql) {
-    const bool geschützt = PQtransactionStatus(m_conn) == PQTRANS_INTRANS;
-    if (geschützt)
-        befehl("SAVEPOINT vemo_schritt");
-    PGresult* r = aufruf();
-    if (geschützt) {
-        if (!erfolgreich(r))
-            PQclear(PQexec(m_conn, "ROLLBACK TO SAVEPOINT vemo_schritt"));
-        PQclear(PQexec(m_conn, "RELEASE SAVEPOINT vemo_schritt"));
+// The results of one statement sent: the last of them, the others let go.
+PGresult* Sitzung::ergebnisAbholen() {
+    PGresult* letztes = nullptr;
+    while (PGresult* r = PQgetResult(m_conn)) {
+        PQclear(letztes);
+        letztes = r;
+        if (PQresultStatus(r) == PGRES_PIPELINE_SYNC)
+            break;
     }
+    return letztes;
+}
+
+// The savepoint, the statement and the savepoint's release go to the server together, so that
+// the protection costs no round trips of its own; only a failed statement sends one more, to
+// roll back to the savepoint.
+Sitzung::Ergebnis Sitzung::ausführen(const std::function<int()>& senden, const QString& sql) {
+    if (PQtransactionStatus(m_conn) != PQTRANS_INTRANS) {
+        senden();
+        return prüfen(ergebnisAbholen(), sql);
+    }
+    const auto ohneWerte = [this](const char* anweisung) {
+        PQsendQueryParams(m_conn, anweisung, 0, nullptr, nullptr, nullptr, nullptr, 0);
+    };
+    PQenterPipelineMode(m_conn);
+    ohneWerte("SAVEPOINT vemo_schritt");
+    senden();
+    ohneWerte("RELEASE SAVEPOINT vemo_schritt");
+    PQpipelineSync(m_conn);
+    PQclear(ergebnisAbholen());
+    PGresult* r = ergebnisAbholen();
+    PQclear(ergebnisAbholen());
+    PQclear(ergebnisAbholen());
+    PQexitPipelineMode(m_conn);
+    if (!erfolgreich(r))
+        PQclear(PQexec(m_conn, "ROLLBACK TO SAVEPOINT vemo_schritt; RELEASE SAVEPOINT vemo_schritt"));
     return prüfen(r, sql);
 }
 
@@ -291,8 +316,8 @@ std::pair<QString, QString> PostgresVerbindung::herkunft(Oid tabelle, int spalte
                             "WHERE a.attrelid = $1::oid AND a.attnum > 0";
         const auto r = m_sitzung->ausführen(
             [&] {
-                return PQexecParams(m_sitzung->conn(), sql.toUtf8().constData(), 1, nullptr, werte, nullptr,
-                                    nullptr, 0);
+                return PQsendQueryParams(m_sitzung->conn(), sql.toUtf8().constData(), 1, nullptr, werte,
+                                         nullptr, nullptr, 0);
             },
             sql);
         for (int i = 0; i < PQntuples(r.get()); ++i)
@@ -313,7 +338,7 @@ Anweisung PostgresVerbindung::vorbereiten(const QString& sql) {
     const QByteArray name = m_sitzung->neuerName().toUtf8();
     PGconn* c = m_sitzung->conn();
     try {
-        m_sitzung->ausführen([&] { return PQprepare(c, name.constData(), text.constData(), 0, nullptr); },
+        m_sitzung->ausführen([&] { return PQsendPrepare(c, name.constData(), text.constData(), 0, nullptr); },
                              sql);
     } catch (const Fehler& f) {
         // A value alone in the select list ("SELECT ?1") has no type the server can see: it is text.
@@ -325,10 +350,10 @@ Anweisung PostgresVerbindung::vorbereiten(const QString& sql) {
             throw;
         const std::vector<Oid> typen(size_t(anzahl), TextTyp);
         m_sitzung->ausführen(
-            [&] { return PQprepare(c, name.constData(), text.constData(), anzahl, typen.data()); }, sql);
+            [&] { return PQsendPrepare(c, name.constData(), text.constData(), anzahl, typen.data()); }, sql);
     }
     const auto beschreibung =
-        m_sitzung->ausführen([&] { return PQdescribePrepared(c, name.constData()); }, sql);
+        m_sitzung->ausführen([&] { return PQsendDescribePrepared(c, name.constData()); }, sql);
     const PGresult* r = beschreibung.get();
     QVector<Ergebnisspalte> spalten;
     QVector<Oid> typen;

@@ -19,10 +19,10 @@ public:
 
     PGconn* conn() const { return m_conn; }
     bool inTransaktion() const;
-    // Runs a call that gives a result; inside a transaction in a savepoint of its own, so that a
-    // failed statement leaves the transaction as SQLite leaves it: standing, with what came before.
-    // Raises the store's error when the call fails.
-    Ergebnis ausführen(const std::function<PGresult*()>& aufruf, const QString& sql);
+    // Sends a statement (a PQsend... call) and gives its result; inside a transaction in a savepoint
+    // of its own, so that a failed statement leaves the transaction as SQLite leaves it: standing,
+    // with what came before. Raises the store's error when the statement fails.
+    Ergebnis ausführen(const std::function<int()>& senden, const QString& sql);
     Ergebnis befehl(const QString& sql); // plain SQL without values, not in a savepoint
     QString neuerName() { return "v" + QString::number(++m_namen); }
 
@@ -31,6 +31,7 @@ public:
 
 private:
     Ergebnis prüfen(PGresult* r, const QString& sql);
+    PGresult* ergebnisAbholen();
 
     PGconn* m_conn = nullptr;
     qint64 m_namen = 0;
