@@ -625,7 +625,7 @@ std::shared_ptr<RecordsetDaten> tabelleÖffnen(const std::shared_ptr<Verbindung>
     d->seitenweise = true;
     d->tabelle = t;
     for (int i = 0; i < t->spalten.size(); ++i)
-        d->spalten.push_back({t->spalten[i], t->typen[i], t->klassen[i], i});
+        d->spalten.push_back({t->schreibweisen[i], t->typen[i], t->klassen[i], i});
     d->spaltenErfassen();
     d->laden();
     return d;

@@ -130,6 +130,7 @@ std::shared_ptr<const Verbindung::Tabelle> Verbindung::tabelle(const QString& na
     t.zitiert = zitiert(t.name);
     for (const Spaltenbeschreibung& s : spaltenBeschreiben(t.zitiert)) {
         t.spalten << s.name;
+        t.schreibweisen << (s.schreibweise.isEmpty() ? s.name : s.schreibweise);
         t.zitierteSpalten << zitiert(s.name);
         t.typen << s.typ;
         t.klassen << typklasse(s.typ);

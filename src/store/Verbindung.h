@@ -78,6 +78,7 @@ public:
         QString name;    // as the schema spells it
         QString zitiert; // ready for a statement
         QStringList spalten;
+        QStringList schreibweisen; // the columns' names as the user reads them
         QStringList zitierteSpalten;
         QStringList typen;
         QVector<Typklasse> klassen;
@@ -139,8 +140,9 @@ protected:
     struct Spaltenbeschreibung {
         QString name;
         QString typ;
-        QString vorgabe;  // the default's expression, empty where there is none
-        bool berechnet{}; // evaluated anew for each row, as today's date
+        QString vorgabe;      // the default's expression, empty where there is none
+        bool berechnet{};     // evaluated anew for each row, as today's date
+        QString schreibweise; // the name as the user reads it, where the engine folds it
     };
     virtual Anweisung vorbereiten(const QString& sql) = 0;
     // The table or view of that name as the schema spells it, compared without regard to case;

@@ -165,6 +165,10 @@ TEST_P(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
     sql("INSERT INTO \"0100_Messung\" (MessID, StromkreisID, FIT) VALUES (1, 7, '20');");
     Recordset rs = db().OpenRecordset("SELECT MessID,FIT as derWert, StromkreisID as id  FROM 0100_Messung "
                                       "WHERE StromkreisID = 7");
+    // Names as the statement and the schema spell them, which the server folds to lower case.
+    EXPECT_EQ(rs.FieldName(0) + "|" + rs.FieldName(1) + "|" + rs.FieldName(2) + "|" +
+                  db().OpenRecordset("0100_EinleseGeräteDaten").FieldName(1),
+              "MessID|derWert|id|PrüfgerätName");
     rs.Edit();
     rs.setField("derWert", "35");
     rs.Update();

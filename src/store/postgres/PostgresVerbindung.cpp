@@ -6,6 +6,7 @@
 
 #include <QDate>
 #include <QDateTime>
+#include <QFile>
 #include <QRegularExpression>
 #include <sqlite3.h>
 
@@ -30,6 +31,41 @@ enum : Oid {
 
 QString utf8(const char* s) {
     return s ? QString::fromUtf8(s) : QString();
+}
+
+// The schema's spelling of its tables' columns, by "table.column" in lower case.
+const QHash<QString, QString>& schemaSchreibweisen() {
+    static const QHash<QString, QString> namen = [] {
+        static const QRegularExpression tabelle(R"x(^CREATE TABLE "?([^"\s(]+))x");
+        static const QRegularExpression spalte(R"x(^\s+"?([^"\s]+)"?\s+[A-Z])x");
+        QHash<QString, QString> h;
+        QFile f(":/data/schema.sql");
+        f.open(QIODevice::ReadOnly);
+        QString aktuelle;
+        for (const QString& zeile : QString::fromUtf8(f.readAll()).split('\n')) {
+            if (const auto t = tabelle.match(zeile); t.hasMatch())
+                aktuelle = t.captured(1).toLower();
+            else if (const auto s = spalte.match(zeile); s.hasMatch())
+                h.insert(aktuelle + '.' + s.captured(1).toLower(), s.captured(1));
+        }
+        return h;
+    }();
+    return namen;
+}
+
+// The server folds the names it gives back to lower case; the user reads a column's name as the
+// statement or the schema writes it: an alias as the statement spells it, a table's column as the
+// schema does.
+QString schreibweise(const QString& name, const Ergebnisspalte& s, const QString& sql) {
+    static const QRegularExpression alias(R"x(\bAS\s+\[?"?(\w+))x",
+                                          QRegularExpression::CaseInsensitiveOption |
+                                              QRegularExpression::UseUnicodePropertiesOption);
+    for (auto it = alias.globalMatch(sql); it.hasNext();)
+        if (const QString a = it.next().captured(1); a.compare(name, Qt::CaseInsensitive) == 0)
+            return a;
+    if (name == s.ursprung)
+        return schemaSchreibweisen().value(s.tabelle.toLower() + '.' + name, name);
+    return name;
 }
 
 // The server's error as the store's, numbered as the system's messages number SQLite's: a lock
@@ -365,6 +401,7 @@ Anweisung PostgresVerbindung::vorbereiten(const QString& sql) {
             s.tabelle = tabelle;
             s.ursprung = spalte;
         }
+        s.name = schreibweise(s.name, s, sql);
         spalten << s;
         typen << PQftype(r, i);
     }
@@ -410,8 +447,10 @@ PostgresVerbindung::spaltenBeschreiben(const QString& zitierterName) {
         const QString vorgabe = text(s.wert(2));
         // A literal ('xxxxx'::character varying, 48) keeps its value; CURRENT_DATE is evaluated anew.
         const bool literal = vorgabe.startsWith('\'') || (!vorgabe.isEmpty() && vorgabe[0].isDigit());
-        spalten.push_back(
-            {s.wert(0).toString(), s.wert(1).toString(), vorgabe, !vorgabe.isEmpty() && !literal});
+        const QString name = s.wert(0).toString();
+        const QString tabelle = QString(zitierterName).remove('"').toLower();
+        spalten.push_back({name, s.wert(1).toString(), vorgabe, !vorgabe.isEmpty() && !literal,
+                           schemaSchreibweisen().value(tabelle + '.' + name)});
     }
     return spalten;
 }

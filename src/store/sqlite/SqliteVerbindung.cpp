@@ -316,7 +316,7 @@ QVector<Verbindung::Spaltenbeschreibung> SqliteVerbindung::spaltenBeschreiben(co
     Schritt s(anweisung("PRAGMA table_info(" + zitierterName + ")"));
     while (s.weiter()) {
         const QString vorgabe = s.wert(4).toString();
-        spalten.push_back({s.wert(1).toString(), s.wert(2).toString(), vorgabe, vorgabe.startsWith('(')});
+        spalten.push_back({s.wert(1).toString(), s.wert(2).toString(), vorgabe, vorgabe.startsWith('('), {}});
     }
     return spalten;
 }
