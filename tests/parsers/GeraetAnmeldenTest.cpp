@@ -19,12 +19,8 @@ protected:
 
 TEST(Kennzeile, NameVersionAndSerialNumber) {
     const Kennung k = kennzeileZerlegen("ZEMAK 3720,V1.02,B,0815-4711");
-    EXPECT_EQ(k.name, "ZEMAK 3720");
-    EXPECT_EQ(k.version, "V1.02,B");
-    EXPECT_EQ(k.seriennummer, "0815-4711");
-    EXPECT_EQ(kennzeileZerlegen(",,").name, "");
-    for (const char* kaputt : {"", "ohne Komma", "nur,eine"})
-        EXPECT_EQ(test::fehlernummer([&] { kennzeileZerlegen(kaputt); }), fehler::UngültigerAufruf) << kaputt;
+    EXPECT_EQ(k.name + "|" + k.version.value_or("-") + "|" + k.seriennummer, "ZEMAK 3720|V1.02,B|0815-4711");
+    EXPECT_EQ(test::fehlernummer([&] { kennzeileZerlegen("ohne Komma"); }), fehler::UngültigerAufruf);
 }
 
 TEST_F(GerätAnmeldenTest, FamiliesDifferOnlyByTheirData) {
