@@ -47,6 +47,19 @@ TEST_F(FormularMitZeilen, DeletingAsksAndRemovesTheSelectedRows) {
     EXPECT_EQ(m_ui.sanduhrTiefe, 0);
 }
 
+// The right button keeps a selection it falls inside and offers the assignment on a data cell; the
+// window's test clicks outside the selection, on the moment column.
+TEST_F(FormularMitZeilen, TheRightButtonKeepsTheSelectionItFallsIn) {
+    auto f = formular();
+    QSignalSpy popup(f.get(), &EinleseDatenController::popupRequested);
+    f->gridAuswahl({1, 1, 2, 3});
+    f->gridMausRunter(2, 2, true);
+    f->gridMausHoch(2, 2, true);
+    EXPECT_EQ(f->grid().auswahl.RowSel, 2);
+    EXPECT_TRUE(f->schaltflächen().zuordnung);
+    EXPECT_EQ(popup.count(), 1);
+}
+
 TEST_F(FormularMitZeilen, TheWaysOutSetTheSignalsToTheHost) {
     modul().EinlesedatenID = 5;
     modul().EinlesedatenIDRow = 5;

@@ -1,10 +1,12 @@
 #include "Einleseumgebung.h"
+#include "support/Fehlernummer.h"
 #include "support/SorelinBild.h"
 
 #include "core/Arbeitsdateien.h"
 #include "core/Geraetetypen.h"
 #include "host/DateiEinlesen.h"
 #include "parsers/EinlesenVonDatei.h"
+#include "parsers/SorelinTreiber.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
 
@@ -152,8 +154,10 @@ TEST_F(SorelinTest, DieProbenWerdenAusDerDateiErkanntUndGelesen) {
 }
 
 // A driver table of our own: a selective RCD test with settings 07 (A, x2, 180°), then trip time
-// series heads for 500 mA and for 30 mA with settings 08 (limit 25 V) and 00 (50 V).
-TEST_F(SorelinTest, DieRcdBloeckeSchreibenIhreEinstellungenDahinter) {
+// series heads for 500 mA and for 30 mA with settings 08 (limit 25 V) and 00 (50 V). Beside them
+// the columns no shipped driver leaves empty or writes otherwise: a mask, a scale given as "&H",
+// an overflow list whose "Kein Overflow" matches first, and a value with no columns at all.
+TEST_F(SorelinTest, DieRcdBloeckeUndDieWertspaltenEinesEigenenTreibers) {
     QStringList spalten;
     for (int i = 1; i <= 23; ++i)
         spalten << QString("\"%1\" TEXT").arg(i);
@@ -162,7 +166,10 @@ TEST_F(SorelinTest, DieRcdBloeckeSchreibenIhreEinstellungenDahinter) {
         "INSERT INTO \"77Sorelin\" (\"1\", \"2\", \"3\", \"4\", \"5\") VALUES ('Version', '1', '', '', ''),"
         "  ('NameDE', 'Prüfling', '', '', ''), ('StartBlock', '240', '', '', ''),"
         "  ('Arten', '1', 'A', '0', 'AC'), ('Faktoren', '2', 'x2', '0', 'x1'),"
-        "  ('Wellen', '4', '180°', '0', '0°'), ('Grenzen', '8', '25 V', '0', '50 V');"
+        "  ('Wellen', '4', '180°', '0', '0°'), ('Grenzen', '8', '25 V', '0', '50 V'),"
+        "  ('Bereich', '&H8000', '1000', '0', '10'), ('Grenze', 'F000', 'Kein Overflow', '4000', '> ');"
+        "INSERT INTO \"77Sorelin\" (\"1\", \"7\", \"8\", \"9\", \"13\", \"14\", \"15\") VALUES"
+        "  ('Wert', '1', '2', '0FFF', 'Bereich', 'Grenze', '3'), ('Leer', '1', '4', '', '', '', '');"
         "INSERT INTO \"77Sorelin\" (\"1\", \"2\", \"4\", \"5\", \"6\", \"7\", \"8\", \"9\", \"10\", \"12\")"
         "  VALUES ('20DE', '30 mA (s)', 'Arten', 'Faktoren', 'Wellen', '1', '2', 'FF', 'E', 'FI');"
         "INSERT INTO \"77Sorelin\" (\"1\", \"4\", \"5\", \"7\", \"8\", \"9\", \"10\", \"11\", \"12\","
@@ -178,6 +185,17 @@ TEST_F(SorelinTest, DieRcdBloeckeSchreibenIhreEinstellungenDahinter) {
                            "FI Halbwelle=180°",
                            "0001/0002: FI IdN=500 mA | FI Einstellung=8 | FI UL=25 V | FI Faktor=x1",
                            "0001/0003: FI IdN=30 mA | FI Einstellung=0 | FI UL=50 V"}));
+
+    const SorelinTreiber treiber = SorelinTreiber::öffnen(db(), 77);
+    const auto wert = [&](const QString& hexUndZeile) {
+        return GetSorelinWert(QByteArray::fromHex(hexUndZeile.section(' ', 0, 0).toLatin1()), 0, treiber,
+                              *treiber.zeile(hexUndZeile.section(' ', 1)), 8);
+    };
+    EXPECT_EQ(jeweils(wert, {"8123 Wert", "0123 Wert", "4123 Wert", "F123 Wert", "FFFFFFFF Leer"}),
+              "0.291 | 29.100 | > 29.100 | 0.291 | 4294967295");
+    EXPECT_EQ(fehlernummer([&] { wert("81 Wert"); }), fehler::IndexAußerhalb);
+    EXPECT_EQ(fehlernummer([] { treiberHexZahl("zz"); }), fehler::TypenUnverträglich);
+    EXPECT_EQ(fehlernummer([] { rohzahl(QByteArray(8, 0), 0, 5); }), fehler::TypenUnverträglich);
 }
 
 } // namespace
