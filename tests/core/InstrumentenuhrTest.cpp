@@ -97,17 +97,6 @@ TEST(Instrumentenuhr, ZeigtDieOrtszeitWieDieUhrDesComputers) {
     EXPECT_EQ(ZeitAusSekunden(*ZEMAKsecTime(1, 7, 2024, 12, 0, 0)), sommer);
     EXPECT_EQ(ZeitAusSekunden(*ZEMAKsecTime(15, 1, 2024, 11, 0, 0)), winter);
 
-    const QDateTime jetzt = QDateTime::currentDateTime();
-    const auto n = instrumentenzeit(jetzt);
-    ASSERT_TRUE(n);
-    EXPECT_LE(std::abs(ZeitAusSekunden(*n).secsTo(jetzt)), 1);
-    EXPECT_EQ(ZeitAusSekunden(*n).timeSpec(), Qt::LocalTime);
-    const QDateTime utcJetzt = jetzt.toUTC();
-    const auto nachUtc =
-        ZEMAKsecTime(utcJetzt.date().day(), utcJetzt.date().month(), utcJetzt.date().year(),
-                     utcJetzt.time().hour(), utcJetzt.time().minute(), utcJetzt.time().second());
-    EXPECT_EQ(qint64(*n) - qint64(*nachUtc), jetzt.offsetFromUtc()) << "local time, not UTC";
-
     // The hour the clocks skip in spring shows as the computer's clock shows that moment; the
     // hour they repeat in autumn keeps its wall time.
     const QDateTime übersprungen = ZeitAusSekunden(*ZEMAKsecTime(31, 3, 2024, 2, 30, 0));

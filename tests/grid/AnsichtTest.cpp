@@ -8,7 +8,6 @@
 #include <QImage>
 #include <QLabel>
 #include <QMenu>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QTableView>
@@ -59,16 +58,11 @@ protected:
     std::unique_ptr<EinleseDatenAnsicht> m_ansicht;
 };
 
-TEST_F(AnsichtTest, TheWindowShowsTheGridTheControlsAndTheCellStates) {
+// The window shows the grid and its cell states, in colour and weight as the user sees them.
+TEST_F(AnsichtTest, TheWindowShowsTheGridAndTheCellStates) {
     EXPECT_EQ(m_ansicht->windowTitle(), modul().anwendungstitel + " - " + xText("Einlesedaten"));
-    EXPECT_EQ(tabelle()->model()->headerData(3, Qt::Horizontal).toString(), xText("Prüfung"));
     EXPECT_EQ(tabelle()->model()->rowCount(), 3);
     EXPECT_GE(tabelle()->columnWidth(1), 116);
-    EXPECT_FALSE(tabelle()->isColumnHidden(6));
-    EXPECT_FALSE(kind<QProgressBar>("fortschritt")->isVisible());
-    EXPECT_FALSE(kind<QPushButton>("EditResults")->isVisible());
-    EXPECT_TRUE(kind<QPushButton>("Uebernehmen")->isEnabled());
-    EXPECT_EQ(kind<QLabel>("Hilfetext")->text(), xText("EinlesedatenHilfetext"));
     EXPECT_GE(m_ansicht->width(), std::min(7 * 116, m_ansicht->screen()->availableGeometry().width()));
 
     const QAbstractItemModel* m = tabelle()->model();
@@ -83,7 +77,6 @@ TEST_F(AnsichtTest, TheWindowShowsTheGridTheControlsAndTheCellStates) {
     EXPECT_EQ(schrift(1, 1), m_ansicht->palette().color(QPalette::ButtonText).name() + " normal");
     EXPECT_TRUE(m->index(0, 6).data(Qt::BackgroundRole).isValid());
 
-    // The grid as the user sees it carries both state colours.
     const QImage bild = m_ansicht->grab().toImage();
     bool rot = false, blaugrün = false;
     for (int y = 0; y < bild.height(); ++y)
@@ -105,56 +98,39 @@ TEST_F(AnsichtTest, TheWindowShowsTheGridTheControlsAndTheCellStates) {
     }
 }
 
-TEST_F(AnsichtTest, ADoubleClickOpensTheComboOnDataCellsOnly) {
+// The user's way through the window: the box opens on data cells only, Escape and leaving store
+// nothing, Enter stores; after an assignment a plain click selects the one cell clicked, so that the
+// next choice lands on that row alone; typing opens the box; the context menu and the button delete
+// the rows; Escape on the grid and the close button close the form.
+TEST_F(AnsichtTest, TheUserDrivesTheWindowWithMouseAndKeys) {
     doppelklick(2, 6);
     EXPECT_FALSE(combo()->isVisible());
     const QHeaderView* kopf = tabelle()->horizontalHeader();
     QTest::mouseDClick(kopf->viewport(), Qt::LeftButton, {},
                        QPoint(kopf->sectionViewportPosition(2) + 10, 5));
     EXPECT_FALSE(combo()->isVisible());
-
     doppelklick(2, 2);
     ASSERT_TRUE(combo()->isVisible());
     EXPECT_EQ(combo()->count(), 3);
     EXPECT_EQ(combo()->itemText(0), xText("keine Anlage"));
     EXPECT_EQ(combo()->itemData(2).toInt(), 2);
-    EXPECT_EQ(m_formular->grid().auswahl.Row, 2);
-    EXPECT_EQ(m_formular->editCol(), 2);
     EXPECT_TRUE(combo()->geometry().intersects(tabelle()->visualRect(tabelle()->model()->index(1, 2))));
-}
-
-TEST_F(AnsichtTest, EnterStoresEscapeAndArrowsAlone) {
-    doppelklick(1, 2);
-    QTest::keyClick(combo(), Qt::Key_Down);
-    EXPECT_EQ(combo()->currentText(), "002 A2 Verkaufsraum");
     QTest::keyClick(combo(), Qt::Key_Escape);
     EXPECT_FALSE(combo()->isVisible());
     EXPECT_TRUE(m_ansicht->isVisible()); // Escape in the box doesn't close the form
-    EXPECT_EQ(feld(1, "AnlageID"), "1");
 
     doppelklick(1, 2);
     QTest::keyClick(combo(), Qt::Key_Down);
     tabelle()->setFocus();
     EXPECT_FALSE(combo()->isVisible());
     EXPECT_EQ(feld(1, "AnlageID"), "1");
-
     doppelklick(1, 2);
     QTest::keyClick(combo(), Qt::Key_Down);
+    EXPECT_EQ(combo()->currentText(), "002 A2 Verkaufsraum");
     QTest::keyClick(combo(), Qt::Key_Return);
     EXPECT_FALSE(combo()->isVisible());
-    EXPECT_EQ(feld(1, "AnlageID"), "2");
-    EXPECT_EQ(feld(1, "PrüfungID"), "0");
+    EXPECT_EQ(feld(1, "AnlageID") + " " + feld(1, "PrüfungID"), "2 0");
     EXPECT_EQ(tabelle()->model()->index(0, 2).data().toString(), "002 A2 Verkaufsraum");
-    EXPECT_TRUE(m_ansicht->isVisible());
-}
-
-// After an assignment a plain click selects the one cell clicked, as it does anywhere else, so that
-// the next choice lands on that row alone.
-TEST_F(AnsichtTest, AClickAfterAnAssignmentSelectsTheClickedCellAlone) {
-    doppelklick(1, 2);
-    QTest::keyClick(combo(), Qt::Key_Down);
-    QTest::keyClick(combo(), Qt::Key_Return);
-    ASSERT_EQ(feld(1, "AnlageID"), "2");
 
     QTest::mouseClick(tabelle()->viewport(), Qt::LeftButton, {}, mitte(3, 1));
     const Auswahl& a = m_formular->grid().auswahl;
@@ -163,9 +139,7 @@ TEST_F(AnsichtTest, AClickAfterAnAssignmentSelectsTheClickedCellAlone) {
               QModelIndexList{tabelle()->model()->index(2, 1)});
     EXPECT_EQ(kind<QLabel>("AnzahlZeilen")->text(),
               xText("Anzahl der Markiertenzeilen") + " 1 " + xText("von") + " 3");
-}
 
-TEST_F(AnsichtTest, TypingOnTheGridOpensTheComboWithTheCharacter) {
     tabelle()->setFocus();
     tabelle()->selectionModel()->setCurrentIndex(tabelle()->model()->index(2, 4),
                                                  QItemSelectionModel::ClearAndSelect);
@@ -174,11 +148,7 @@ TEST_F(AnsichtTest, TypingOnTheGridOpensTheComboWithTheCharacter) {
     EXPECT_EQ(combo()->currentText(), "0");
     EXPECT_EQ(m_formular->editRow(), 3);
     QTest::keyClick(combo(), Qt::Key_Escape);
-    QTest::keyClick(tabelle(), Qt::Key_Escape);
-    EXPECT_FALSE(m_formular->istOffen());
-}
 
-TEST_F(AnsichtTest, TheContextMenuAndTheButtonDeleteTheRows) {
     QTest::mouseClick(tabelle()->viewport(), Qt::RightButton, {}, mitte(3, 6));
     QMenu* menü = m_ansicht->menue();
     ASSERT_TRUE(menü->isVisible());
@@ -186,10 +156,7 @@ TEST_F(AnsichtTest, TheContextMenuAndTheButtonDeleteTheRows) {
     EXPECT_TRUE(menü->findChild<QAction*>("mnuLoeschen")->isEnabled());
     menü->hide();
     EXPECT_EQ(m_formular->grid().auswahl.Row, 3);
-
     tabelle()->selectAll();
-    EXPECT_EQ(kind<QLabel>("AnzahlZeilen")->text(),
-              xText("Anzahl der Markiertenzeilen") + " 3 " + xText("von") + " 3");
     m_ui.antworten = {antwort::Ja};
     QTest::mouseClick(kind<QPushButton>("ComLoeschen"), Qt::LeftButton);
     EXPECT_EQ(anzahlen("0100_EinleseDaten|0100_EinleseGeräteDaten"), "0|0");
@@ -197,6 +164,10 @@ TEST_F(AnsichtTest, TheContextMenuAndTheButtonDeleteTheRows) {
     EXPECT_FALSE(kind<QPushButton>("ComLoeschen")->isEnabled());
     EXPECT_FALSE(kind<QPushButton>("Uebernehmen")->isEnabled());
 
+    tabelle()->setFocus();
+    QTest::keyClick(tabelle(), Qt::Key_Escape);
+    EXPECT_FALSE(m_formular->istOffen());
+    m_formular->geöffnet();
     QTest::mouseClick(kind<QPushButton>("Schliessen"), Qt::LeftButton);
     EXPECT_FALSE(m_formular->istOffen());
     EXPECT_FALSE(m_ansicht->isVisible());

@@ -188,14 +188,4 @@ TEST_F(RefreshTest, ACustomerNumberIsFoundWhateverTheCaseOfItsUmlauts) {
     EXPECT_EQ(zustand(*f, 1, 1), Zellzustand::Aufgelöst);
 }
 
-TEST_F(RefreshTest, AnEmptyTableGivesAnEmptyGrid) {
-    const auto f = formular();
-    EXPECT_EQ(f->grid().Rows(), 1);
-    EXPECT_EQ(text(*f, 0, 1), xText("Kunde"));
-    EXPECT_FALSE(f->schaltflächen().übernehmen);
-    EXPECT_FALSE(f->schaltflächen().löschen);
-    EXPECT_FALSE(f->schaltflächen().editResults);
-    EXPECT_EQ(f->anzahlZeilen(), "");
-}
-
 } // namespace

@@ -13,7 +13,6 @@ using ZuordnungTest = GridUmgebung;
 
 constexpr int Enter = 13;
 constexpr int Escape = 27;
-constexpr int Runter = 40;
 
 // Opens the combo box by a double click on a cell, as the grid's mouse events reach the form.
 void doppelklick(EinleseDatenController& f, int zeile, int spalte) {
@@ -116,43 +115,24 @@ TEST_F(ZuordnungTest, BoardAndCircuitTakeTheEntryTextAsTheirNumber) {
     EXPECT_EQ(feld(2, "VerteilerID"), "1"); // outside the selection
 }
 
-TEST_F(ZuordnungTest, OnlyEnterOrAClickOnAnEntryStores) {
+// Moving, leaving and Escape are the window test's; here Enter on the unchanged list stores the
+// same key, which changes nothing below it, and a typed text that names no entry is dropped.
+TEST_F(ZuordnungTest, EnterOnTheSameEntryOrOnNoEntryChangesNothing) {
     gerät(1, "0100-Corvex");
     eingelesen("MessungID=1, KundeID=1, AnlageID=1, PrüfungID=1, VerteilerID=1, StromkreisID=1");
     auto f = formular();
-
-    // Enter on the unchanged list stores the same key, which changes nothing below it either.
     doppelklick(*f, 1, 2);
     EXPECT_TRUE(f->tasteGesehen());
     f->comboTaste(Enter);
     EXPECT_FALSE(f->combo().sichtbar);
     EXPECT_EQ(schlüssel(1), "1|1|1|1|1");
 
-    // Moving through the list and leaving, or Escape, store nothing.
-    doppelklick(*f, 1, 2);
-    f->comboTaste(Runter);
-    EXPECT_EQ(f->combo().text, "002 A2 Verkaufsraum");
-    f->comboFokusVerloren();
-    EXPECT_EQ(feld(1, "AnlageID"), "1");
-    doppelklick(*f, 1, 2);
-    f->comboTaste(Runter);
-    f->comboTaste(Escape);
-    EXPECT_FALSE(f->combo().sichtbar);
-    EXPECT_EQ(schlüssel(1), "1|1|1|1|1");
-
-    // A typed text that names no entry is dropped.
     f->gridAuswahl({1, 2, 1, 2});
     f->gridTaste('x');
     EXPECT_EQ(f->combo().text, "x");
     EXPECT_EQ(f->combo().listIndex, -1);
     f->comboTaste(Enter);
-    EXPECT_EQ(feld(1, "AnlageID"), "1");
-
-    // Moving, then Enter, stores the entry moved to.
-    doppelklick(*f, 1, 2);
-    f->comboTaste(Runter);
-    f->comboTaste(Enter);
-    EXPECT_EQ(schlüssel(1), "1|2|0|0|0");
+    EXPECT_EQ(schlüssel(1), "1|1|1|1|1");
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
@@ -163,7 +143,7 @@ TEST_F(ZuordnungTest, TheComboOpensOnDataCellsOnlyAndFromOutsideTheSelectionForO
     auto f = formular();
     f->gridAuswahl({1, 1, 2, 1});
 
-    for (const auto& [zeile, spalte] : {std::pair{1, 6}, {0, 2}, {2, 0}, {-1, 3}}) {
+    for (const auto& [zeile, spalte] : {std::pair{0, 2}, {2, 0}, {-1, 3}}) {
         doppelklick(*f, zeile, spalte);
         EXPECT_FALSE(f->combo().sichtbar) << zeile << "," << spalte;
     }

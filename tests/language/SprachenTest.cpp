@@ -7,30 +7,23 @@ namespace {
 
 using SprachenTest = Sprachumgebung;
 
-TEST_F(SprachenTest, EndungenBleibenHinterDerÜbersetzung) {
-    EXPECT_EQ(m_sprachen.xText("Zustand:"), "State:");
-    EXPECT_EQ(m_sprachen.xText("Identifikation..."), "Identification...");
-    EXPECT_EQ(m_sprachen.xText("Zustand"), "State");
-    EXPECT_EQ(m_sprachen.xText("zustand"), "State"); // the key compares without regard to case
+// Endings stay behind the translation and the key compares without regard to case; "..." alone is
+// a text of its own, not an ending; an empty translation shows "xxx", and a known text is never
+// added again.
+TEST_F(SprachenTest, EndungenUndLeereÜbersetzungen) {
+    spracheSql("INSERT INTO Sprache (TextID, \"English (United Kingdom)\") VALUES ('...', 'more'), "
+               "('Ohne', NULL), ('Blank', '   ')");
+    const auto englisch = [this](const QString& t) { return m_sprachen.xText(t); };
+    EXPECT_EQ(test::jeweils(englisch, {"Zustand:", "Identifikation...", "zustand", "", "...", "Ohne",
+                                       "Ohne:", "Blank..."}),
+              "State: | Identification... | State |  | more | xxx | xxx | xxx");
     EXPECT_EQ(m_sprachen.xText("Zustand", Deutschland), "Zustand");
-    EXPECT_EQ(m_sprachen.xText(""), "");
-
-    // "..." alone is a text of its own, not an ending.
-    spracheSql("INSERT INTO Sprache (TextID, \"English (United Kingdom)\") VALUES ('...', 'more')");
-    EXPECT_EQ(m_sprachen.xText("..."), "more");
-    EXPECT_EQ(zeilenMitSchlüssel(""), 0);
+    EXPECT_EQ(zeilenMitSchlüssel("") + zeilenMitSchlüssel("Ohne"), 1);
 }
 
-TEST_F(SprachenTest, LeereÜbersetzungZeigtXxx) {
-    spracheSql(
-        "INSERT INTO Sprache (TextID, \"English (United Kingdom)\") VALUES ('Ohne', NULL), ('Blank', '   ')");
-    EXPECT_EQ(m_sprachen.xText("Ohne"), "xxx");
-    EXPECT_EQ(m_sprachen.xText("Ohne:"), "xxx");
-    EXPECT_EQ(m_sprachen.xText("Blank..."), "xxx");
-    EXPECT_EQ(zeilenMitSchlüssel("Ohne"), 1); // a known text is never added again
-}
-
-TEST_F(SprachenTest, NeuerTextWirdEinmalAufgenommen) {
+// A new text is learned once, with its version; a text too long is cut and learned anew each time
+// it is asked for, since the full text never finds the cut key; quotes are part of the text.
+TEST_F(SprachenTest, NeueTexteWerdenAufgenommen) {
     m_sprachen.setVersion("2.5");
     EXPECT_EQ(m_sprachen.xText("Messwerte prüfen:"), "Messwerte prüfen:");
     ASSERT_EQ(zeilenMitSchlüssel("Messwerte prüfen"), 1);
@@ -45,9 +38,7 @@ TEST_F(SprachenTest, NeuerTextWirdEinmalAufgenommen) {
     EXPECT_EQ(m_sprachen.xText("Messwerte prüfen:", Deutschland), "Messwerte prüfen:");
     EXPECT_EQ(m_sprachen.xText("Messwerte prüfen", "Deutsch (&Österreich)"), "Messwerte prüfen");
     EXPECT_EQ(zeilenMitSchlüssel("Messwerte prüfen"), 1);
-}
 
-TEST_F(SprachenTest, ZuLangerTextWirdGekürztUndJedesMalNeuAufgenommen) {
     const QString lang = QString("Hinweis zur Prüfung ").repeated(15); // 300 characters
     EXPECT_EQ(m_sprachen.xText(lang), lang);
     const QString gekürzt = lang.left(255);
@@ -58,10 +49,7 @@ TEST_F(SprachenTest, ZuLangerTextWirdGekürztUndJedesMalNeuAufgenommen) {
     // The full text never finds the cut key: each asking adds one more row.
     EXPECT_EQ(m_sprachen.xText(lang), lang);
     EXPECT_EQ(zeilenMitSchlüssel(gekürzt), 2);
-}
 
-// Quotes are part of the text: it is looked up, learned once and found again like any other.
-TEST_F(SprachenTest, AnführungszeichenSindTeilDesTextes) {
     for (const QString text : {"Kabel 5\" lang", "Sag \"Hallo\"", "Prüfer's Notiz", "1' OR 1=1--"}) {
         EXPECT_EQ(m_sprachen.xText(text + ":"), text + ":");
         EXPECT_EQ(m_sprachen.xText(text, Deutschland), text);
@@ -69,11 +57,21 @@ TEST_F(SprachenTest, AnführungszeichenSindTeilDesTextes) {
     }
 }
 
-TEST_F(SprachenTest, UnbekannteSpracheFälltAufDeutschZurück) {
+// The report's and the standard's look-ups never add anything; an unknown language falls back to
+// German; without a database the user is told and German is spoken.
+TEST_F(SprachenTest, NachschlagenOhneAufnehmenUndZurückAufDeutsch) {
+    EXPECT_EQ(m_sprachen.xTextReport("Kunde"), "Customer");
+    EXPECT_EQ(m_sprachen.xTextReport("Kunde", Deutschland), "Kunde");
+    EXPECT_EQ(m_sprachen.xTextNurStandard("Grund4"), "Wiederholungsprüfung");
+    EXPECT_EQ(m_sprachen.xTextReport("Gibt es nicht"), "Gibt es nicht");
+    EXPECT_EQ(m_sprachen.xTextNurStandard("Gibt es nicht"), "Gibt es nicht");
+    EXPECT_EQ(zeilenMitSchlüssel("Gibt es nicht"), 0);
+    // The query takes the text as a parameter: quotes do no harm here.
+    EXPECT_EQ(m_sprachen.xTextReport("Kabel 5\" lang"), "Kabel 5\" lang");
+
     m_sprachen.spracheWählen("Klingonisch");
     ASSERT_EQ(m_ui.meldungen.size(), 1);
     EXPECT_EQ(m_ui.meldungen[0].text, "Sprache: Klingonisch\r\nnicht vorhanden. Deutsch wird eingestellt !");
-    EXPECT_EQ(m_ui.meldungen[0].titel, modul().anwendungstitel);
     EXPECT_EQ(m_sprachen.Sprache(), "Deutsch");
     EXPECT_EQ(m_sprachen.xText("Grund1"), "Neuanlage");
 
@@ -84,9 +82,8 @@ TEST_F(SprachenTest, UnbekannteSpracheFälltAufDeutschZurück) {
     // A language asked for by name that the table lacks gives nothing, and adds nothing.
     EXPECT_EQ(m_sprachen.xText("Kunde", "Klingonisch"), "");
     EXPECT_EQ(zeilenMitSchlüssel("Kunde"), 1);
-}
 
-TEST_F(SprachenTest, OhneDatenbankWirdErklärtUndDeutschGesprochen) {
+    m_ui.meldungen.clear();
     Sprachen ohne;
     ohne.spracheWählen(Englisch);
     ASSERT_EQ(m_ui.meldungen.size(), 1);
@@ -110,17 +107,6 @@ TEST_F(SprachenTest, OhneDatenbankWirdErklärtUndDeutschGesprochen) {
     fehlt.setNameDatenbank(sprachdatenbank::DateiName);
     EXPECT_THROW(fehlt.DatenbankZuweisen(), Fehler);
     EXPECT_FALSE(fehlt.hatDatenbank());
-}
-
-TEST_F(SprachenTest, BerichtUndStandardFügenNieEtwasHinzu) {
-    EXPECT_EQ(m_sprachen.xTextReport("Kunde"), "Customer");
-    EXPECT_EQ(m_sprachen.xTextReport("Kunde", Deutschland), "Kunde");
-    EXPECT_EQ(m_sprachen.xTextNurStandard("Grund4"), "Wiederholungsprüfung");
-    EXPECT_EQ(m_sprachen.xTextReport("Gibt es nicht"), "Gibt es nicht");
-    EXPECT_EQ(m_sprachen.xTextNurStandard("Gibt es nicht"), "Gibt es nicht");
-    EXPECT_EQ(zeilenMitSchlüssel("Gibt es nicht"), 0);
-    // The query takes the text as a parameter: quotes do no harm here.
-    EXPECT_EQ(m_sprachen.xTextReport("Kabel 5\" lang"), "Kabel 5\" lang");
 }
 
 } // namespace

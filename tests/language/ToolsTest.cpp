@@ -62,7 +62,7 @@ protected:
     Tools m_tools;
 };
 
-TEST_F(RegistryTest, SchlüsselUndTexteWerdenGelesen) {
+TEST_F(RegistryTest, SchlüsselUndTexteWerdenGelesenFehlendeÖffnenNichts) {
     quint32 vemotrix = 0;
     ASSERT_TRUE(m_tools.SchlüsselÖffnen(Tools::HkeyCurrentUser, "Software\\vemotrix", vemotrix));
     EXPECT_EQ(m_tools.SchlüsselPfad(vemotrix), "HKEY_CURRENT_USER\\Software\\vemotrix");
@@ -89,15 +89,14 @@ TEST_F(RegistryTest, SchlüsselUndTexteWerdenGelesen) {
     EXPECT_EQ(text, "");
     EXPECT_FALSE(m_tools.WertLesen(vemotrix, "Sicherung", text)); // a value of the subkey only
     EXPECT_FALSE(m_tools.WertLesen(77, "Sicherung", text));
-}
 
-TEST_F(RegistryTest, FehlendeSchlüsselÖffnenNichts) {
+    // Missing keys open nothing.
     quint32 handle = 7;
     EXPECT_FALSE(m_tools.SchlüsselÖffnen(Tools::HkeyLocalMachine, "Software\\vemotrix", handle));
     EXPECT_FALSE(m_tools.SchlüsselÖffnen(Tools::HkeyCurrentUser, "Software\\vemotrix\\Fehlt", handle));
     EXPECT_FALSE(m_tools.SchlüsselÖffnen(42, "Software", handle)); // a parent never opened
     EXPECT_EQ(handle, 7u);
-    EXPECT_EQ(m_tools.SchlüsselPfad(1), ""); // nothing was remembered
+    EXPECT_EQ(m_tools.SchlüsselPfad(pfade + 1), ""); // nothing was remembered
 }
 
 } // namespace

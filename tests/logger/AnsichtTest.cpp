@@ -42,33 +42,6 @@ protected:
     }
 };
 
-TEST_F(LoggerAnsichtTest, DerDatenpoolZeigtDieReiheÜberDerZeit) {
-    Zuordnen pool;
-    pool.zuordnungZeigen(false);
-    pool.diagrammFüllen();
-    const auto fenster = ansicht(pool);
-    fenster->show();
-    auto* chart = fenster->findChild<QChartView*>()->chart();
-    ASSERT_EQ(chart->series().size(), 1);
-    EXPECT_EQ(static_cast<QLineSeries*>(chart->series()[0])->count(), 6);
-    EXPECT_FALSE(fenster->findChild<QListWidget*>("List1")->isVisible());
-    EXPECT_EQ(fenster->findChild<QLabel*>("Label4")->text(), "") << "no start given yet";
-
-    DatenLogger logger(pool);
-    logger.startSetzen(QDateTime(QDate(2026, 3, 14), QTime(7, 30)));
-    logger.command1();
-    EXPECT_EQ(fenster->findChild<QLabel*>("Label4")->text(), "14.03.2026");
-    EXPECT_EQ(fenster->findChild<QLabel*>("Label5")->text(), "07:30:00");
-    EXPECT_EQ(fenster->findChild<QLabel*>("Label7")->text(), "60");
-    EXPECT_EQ(fenster->findChild<QLabel*>("Label8")->text(), "233,0");
-    chart = fenster->findChild<QChartView*>()->chart();
-    const auto* linie = static_cast<QLineSeries*>(chart->series()[0]);
-    ASSERT_EQ(linie->count(), 6);
-    EXPECT_EQ(QDateTime::fromMSecsSinceEpoch(qint64(linie->at(5).x())).toString("HH:mm"), "07:36");
-    EXPECT_DOUBLE_EQ(linie->at(5).y(), 232.1);
-    EXPECT_TRUE(fenster->findChild<QPushButton*>("Startzeit")->isVisible());
-}
-
 // A plain dump shows its boards and the options; a click on a board puts its rendering in place, and
 // the one-main-board option hides the board number.
 TEST_F(LoggerAnsichtTest, EinEinfacherDumpZeigtVerteilerUndOptionen) {

@@ -17,7 +17,16 @@ protected:
     }
 };
 
-TEST_P(RecordsetTest, CursorStandsOnFirstRowAndCountsVisitedRows) {
+// An empty set is both Bof and Eof; a full one stands on its first row and counts the rows visited;
+// a deleted row leaves no current row until the next move.
+TEST_P(RecordsetTest, MovingCountingAndDeleting) {
+    Recordset leer = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
+    EXPECT_TRUE(leer.Bof());
+    EXPECT_TRUE(leer.Eof());
+    EXPECT_EQ(leer.RecordCount(), 0);
+    EXPECT_EQ(test::fehlernummer([&] { leer.MoveFirst(); }), 3021);
+    EXPECT_EQ(test::fehlernummer([&] { leer.Edit(); }), 3021);
+
     zeilen(150); // more than a page
     Recordset rs = db().OpenRecordset("0100_EinleseDaten");
     EXPECT_FALSE(rs.Bof());
@@ -43,18 +52,23 @@ TEST_P(RecordsetTest, CursorStandsOnFirstRowAndCountsVisitedRows) {
     EXPECT_EQ(rs.AbsolutePosition(), 0);
     rs.MovePrevious();
     EXPECT_TRUE(rs.Bof());
+
+    Recordset d = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
+    d.MoveNext();
+    d.Delete();
+    EXPECT_EQ(test::fehlernummer([&] { d.Field("MessungID"); }), 3167);
+    d.MoveNext();
+    EXPECT_EQ(d.Field("MessungID").toInt(), 3);
+    d.MoveLast();
+    d.Delete();
+    d.MoveNext();
+    EXPECT_TRUE(d.Eof());
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 148);
 }
 
-TEST_P(RecordsetTest, EmptySetIsBothBofAndEof) {
-    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
-    EXPECT_TRUE(rs.Bof());
-    EXPECT_TRUE(rs.Eof());
-    EXPECT_EQ(rs.RecordCount(), 0);
-    EXPECT_EQ(test::fehlernummer([&] { rs.MoveFirst(); }), 3021);
-    EXPECT_EQ(test::fehlernummer([&] { rs.Edit(); }), 3021);
-}
-
-TEST_P(RecordsetTest, AddNewThenLastModifiedMakesTheNewRowCurrent) {
+// A new row becomes current by LastModified; fields are written only between AddNew or Edit and
+// Update, a failing write leaves the set usable; dates and numbers keep their types.
+TEST_P(RecordsetTest, WritingRows) {
     zeilen(100);
     Recordset rs = db().OpenRecordset("0100_EinleseDaten"); // not read to its end
     rs.AddNew();
@@ -80,41 +94,45 @@ TEST_P(RecordsetTest, AddNewThenLastModifiedMakesTheNewRowCurrent) {
     rs.setBookmark(rs.LastModified());
     EXPECT_EQ(rs.Text("StromkreisNr"), "0001");
     EXPECT_EQ(wert("SELECT StromkreisNr FROM 0100_EinleseDaten WHERE MessungID = 1"), "0001");
-}
 
-TEST_P(RecordsetTest, FieldsAreWrittenOnlyBetweenAddNewOrEditAndUpdate) {
-    zeilen(2);
-    Recordset rs = db().OpenRecordset("0100_EinleseDaten");
-    EXPECT_EQ(test::fehlernummer([&] { rs.setField("KundeNr", "1"); }), 3020);
-    EXPECT_EQ(test::fehlernummer([&] { rs.Update(); }), 3020);
-    rs.AddNew();
-    rs.setField("MessungID", 9);
-    rs.CancelUpdate();
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 2); // a row begun and not updated is lost
-    EXPECT_EQ(test::fehlernummer([&] { rs.Field("gibtsnicht"); }), 3265);
+    Recordset f = db().OpenRecordset("0100_EinleseDaten");
+    EXPECT_EQ(test::fehlernummer([&] { f.setField("KundeNr", "1"); }), 3020);
+    EXPECT_EQ(test::fehlernummer([&] { f.Update(); }), 3020);
+    f.AddNew();
+    f.setField("MessungID", 9);
+    f.CancelUpdate();
+    EXPECT_EQ(anzahl("0100_EinleseDaten"), 101); // a row begun and not updated is lost
+    EXPECT_EQ(test::fehlernummer([&] { f.Field("gibtsnicht"); }), 3265);
     // A failing write leaves the set usable.
-    rs.AddNew();
-    rs.setField("MessungID", 1);
-    EXPECT_EQ(test::fehlernummer([&] { rs.Update(); }), 3022);
-    EXPECT_EQ(test::fehlernummer([&] { rs.setField("KundeNr", "x"); }), 3020);
+    f.AddNew();
+    f.setField("MessungID", 1);
+    EXPECT_EQ(test::fehlernummer([&] { f.Update(); }), 3022);
+    EXPECT_EQ(test::fehlernummer([&] { f.setField("KundeNr", "x"); }), 3020);
+
+    Recordset p = db().OpenRecordset("0100_Prüfung");
+    p.AddNew();
+    p.setField("PrüfungID", 1);
+    p.setField("Datum", QDate(2024, 3, 1));
+    p.Update();
+    p.setBookmark(p.LastModified());
+    EXPECT_EQ(p.Field("Datum").toDate(), QDate(2024, 3, 1));
+    p.Edit();
+    p.setField("Datum", "05.04.2024"); // a date given as text is read as a date
+    p.setField("Grund1", "0");
+    p.Update();
+    EXPECT_EQ(p.Field("Datum").toDate(), QDate(2024, 4, 5));
+    EXPECT_EQ(p.Field("Grund1").toInt(), 0);
+    p.Edit();
+    EXPECT_EQ(test::fehlernummer([&] {
+                  p.setField("Datum", "kein Datum");
+                  p.Update();
+              }),
+              13);
 }
 
-TEST_P(RecordsetTest, DeleteLeavesNoCurrentRowUntilTheNextMove) {
-    zeilen(4);
-    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
-    rs.MoveNext();
-    rs.Delete();
-    EXPECT_EQ(test::fehlernummer([&] { rs.Field("MessungID"); }), 3167);
-    rs.MoveNext();
-    EXPECT_EQ(rs.Field("MessungID").toInt(), 3);
-    rs.MoveLast();
-    rs.Delete();
-    rs.MoveNext();
-    EXPECT_TRUE(rs.Eof());
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 2);
-}
-
-TEST_P(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
+// FindFirst takes the criteria texts of the system; criteria nested too deep are a syntax error,
+// not a stack overflow.
+TEST_P(RecordsetTest, FindFirstAndItsCriteria) {
     zeilen(5);
     sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001'), (2, 1, '003');");
     Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
@@ -139,56 +157,55 @@ TEST_P(RecordsetTest, FindFirstTakesTheCriteriaTextsOfTheSystem) {
     w.FindFirst("[1] = 'Version'");
     EXPECT_EQ(w.Text("0"), "b");
     EXPECT_EQ(test::fehlernummer([&] { w.FindFirst("[1] = "); }), 3075);
-}
 
-TEST_P(RecordsetTest, CriteriaNestedTooDeepAreASyntaxErrorNotAStackOverflow) {
-    zeilen(3);
-    Recordset rs = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
+    Recordset kette = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten");
     // Far more brackets and conjunctions than any criterion of the system still read.
-    rs.FindFirst(QString("(").repeated(60) + "MessungID = 2" + QString(")").repeated(60) +
-                 QString(" And Not MessungID = 9").repeated(60) + QString(" Or MessungID = 7").repeated(60));
-    EXPECT_FALSE(rs.NoMatch());
-    EXPECT_EQ(rs.Field("MessungID").toInt(), 2);
+    kette.FindFirst(QString("(").repeated(60) + "MessungID = 2" + QString(")").repeated(60) +
+                    QString(" And Not MessungID = 9").repeated(60) +
+                    QString(" Or MessungID = 7").repeated(60));
+    EXPECT_FALSE(kette.NoMatch());
+    EXPECT_EQ(kette.Field("MessungID").toInt(), 2);
     // So deep that reading, testing or freeing the criterion used to exhaust the stack.
     const int tief = 200000;
     const QString verschachtelt = QString("(").repeated(tief) + "MessungID = 1" + QString(")").repeated(tief);
-    EXPECT_EQ(test::fehlernummer([&] { rs.FindFirst(verschachtelt); }), 3075);
-    EXPECT_EQ(test::fehlernummer([&] { rs.FindFirst(QString("Not ").repeated(tief) + "MessungID = 1"); }),
+    EXPECT_EQ(test::fehlernummer([&] { kette.FindFirst(verschachtelt); }), 3075);
+    EXPECT_EQ(test::fehlernummer([&] { kette.FindFirst(QString("Not ").repeated(tief) + "MessungID = 1"); }),
               3075);
     EXPECT_EQ(test::fehlernummer(
-                  [&] { rs.FindFirst("MessungID = 1" + QString(" Or MessungID = 1").repeated(tief)); }),
+                  [&] { kette.FindFirst("MessungID = 1" + QString(" Or MessungID = 1").repeated(tief)); }),
               3075);
-    EXPECT_EQ(rs.Field("MessungID").toInt(), 2); // a refused criterion leaves the cursor where it stood
+    EXPECT_EQ(kette.Field("MessungID").toInt(), 2); // a refused criterion leaves the cursor where it stood
 }
 
-TEST_P(RecordsetTest, QueryColumnsAreWritableThroughAliases) {
+// Query columns are writable through their aliases, a join is not; names are case-insensitive,
+// missing tables are reported; saved queries run with their parameter.
+TEST_P(RecordsetTest, QueriesNamesAndSavedQueries) {
     sql("INSERT INTO \"0100_Messung\" (MessID, StromkreisID, FIT) VALUES (1, 7, '20');");
-    Recordset rs = db().OpenRecordset("SELECT MessID,FIT as derWert, StromkreisID as id  FROM 0100_Messung "
-                                      "WHERE StromkreisID = 7");
+    Recordset alias =
+        db().OpenRecordset("SELECT MessID,FIT as derWert, StromkreisID as id  FROM 0100_Messung "
+                           "WHERE StromkreisID = 7");
     // Names as the statement and the schema spell them, which the server folds to lower case.
-    EXPECT_EQ(rs.FieldName(0) + "|" + rs.FieldName(1) + "|" + rs.FieldName(2) + "|" +
+    EXPECT_EQ(alias.FieldName(0) + "|" + alias.FieldName(1) + "|" + alias.FieldName(2) + "|" +
                   db().OpenRecordset("0100_EinleseGeräteDaten").FieldName(1),
               "MessID|derWert|id|PrüfgerätName");
-    rs.Edit();
-    rs.setField("derWert", "35");
-    rs.Update();
+    alias.Edit();
+    alias.setField("derWert", "35");
+    alias.Update();
     EXPECT_EQ(wert("SELECT FIT FROM 0100_Messung WHERE MessID = 1"), "35");
-    rs.AddNew();
-    rs.setField("MessID", 2);
-    rs.setField("ID", 8);
-    rs.setField("derWert", "12");
-    rs.Update();
+    alias.AddNew();
+    alias.setField("MessID", 2);
+    alias.setField("ID", 8);
+    alias.setField("derWert", "12");
+    alias.Update();
     EXPECT_EQ(wert("SELECT FIT FROM 0100_Messung WHERE StromkreisID = 8"), "12");
-    rs.setBookmark(rs.LastModified());
-    EXPECT_EQ(rs.Text("derWert"), "12");
+    alias.setBookmark(alias.LastModified());
+    EXPECT_EQ(alias.Text("derWert"), "12");
 
     Recordset verbund = db().OpenRecordset(
         "SELECT [0100_Messung].MessID, [0100_Grenzwert].RISO FROM 0100_Messung LEFT JOIN 0100_Grenzwert ON "
         "[0100_Messung].MessID = [0100_Grenzwert].MessID");
     EXPECT_EQ(test::fehlernummer([&] { verbund.Edit(); }), 3027);
-}
 
-TEST_P(RecordsetTest, NamesAreCaseInsensitiveAndMissingTablesAreReported) {
     sql("INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) VALUES (1, 1, '001');");
     EXPECT_EQ(db().OpenRecordset("0100_STROMKREIS").Text("code"), "001");
     EXPECT_EQ(
@@ -199,43 +216,19 @@ TEST_P(RecordsetTest, NamesAreCaseInsensitiveAndMissingTablesAreReported) {
     EXPECT_EQ(test::fehlernummer([&] { db().TableDefs("Kunden"); }), 3078);
     EXPECT_EQ(test::fehlernummer([&] { db().OpenRecordset("SELECT * FROM Nirgends"); }), 3078);
     EXPECT_EQ(test::fehlernummer([&] { db().OpenRecordset("Nirgends"); }), 3078);
-}
 
-TEST_P(RecordsetTest, SavedQueriesRunWithTheirParameter) {
     sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code, Nr, Name) VALUES "
         "(1, 5, '002', '', 'B'), (2, 5, '001', 'N', 'A'), (3, 6, '001', '', 'C');");
     QueryDef q = db().QueryDefs("AnlagenVonKunde");
     q.Parameters("paraKundeID") = 5;
-    Recordset rs = q.OpenRecordset();
-    EXPECT_EQ(rs.Text("Code"), "001");
-    EXPECT_EQ(rs.Text("Nr"), "N");
-    rs.MoveLast();
-    EXPECT_EQ(rs.RecordCount(), 2);
-    EXPECT_EQ(rs.Field("AnlageID").toInt(), 1);
+    Recordset a = q.OpenRecordset();
+    EXPECT_EQ(a.Text("Code"), "001");
+    EXPECT_EQ(a.Text("Nr"), "N");
+    a.MoveLast();
+    EXPECT_EQ(a.RecordCount(), 2);
+    EXPECT_EQ(a.Field("AnlageID").toInt(), 1);
     EXPECT_EQ(test::fehlernummer([&] { q.Parameters("paraX"); }), 3265);
     EXPECT_EQ(test::fehlernummer([&] { db().QueryDefs("Gibtsnicht"); }), 3265);
-}
-
-TEST_P(RecordsetTest, DatesAndNumbersKeepTheirTypes) {
-    Recordset rs = db().OpenRecordset("0100_Prüfung");
-    rs.AddNew();
-    rs.setField("PrüfungID", 1);
-    rs.setField("Datum", QDate(2024, 3, 1));
-    rs.Update();
-    rs.setBookmark(rs.LastModified());
-    EXPECT_EQ(rs.Field("Datum").toDate(), QDate(2024, 3, 1));
-    rs.Edit();
-    rs.setField("Datum", "05.04.2024"); // a date given as text is read as a date
-    rs.setField("Grund1", "0");
-    rs.Update();
-    EXPECT_EQ(rs.Field("Datum").toDate(), QDate(2024, 4, 5));
-    EXPECT_EQ(rs.Field("Grund1").toInt(), 0);
-    rs.Edit();
-    EXPECT_EQ(test::fehlernummer([&] {
-                  rs.setField("Datum", "kein Datum");
-                  rs.Update();
-              }),
-              13);
 }
 
 // Values given for the placeholders go in as values: an apostrophe or a piece of SQL in them is

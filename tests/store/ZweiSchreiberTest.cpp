@@ -5,6 +5,7 @@
 #include "store/Datenbank.h"
 #include "store/Recordset.h"
 #include "store/Transaktion.h"
+#include "support/Fehlernummer.h"
 #include "support/Hilfsprozess.h"
 #include "support/Testumgebung.h"
 
@@ -53,15 +54,6 @@ const test::Hilfsprozess kundeSperren("kunde-sperren", [](const QStringList& a) 
     QThread::sleep(120);
     return 1;
 });
-
-int fehlerNummer(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const Fehler& e) {
-        return e.nummer();
-    }
-    return 0;
-}
 
 // Another writer on the same file that does not wait: it tells whether the write lock is free.
 class Fremder {
@@ -156,15 +148,8 @@ TEST_P(ZweiSchreiberTest, TwoConnectionsCountingInTurnNeverIssueAKeyTwice) {
     EXPECT_EQ(wert("SELECT LastID FROM IDIncrement WHERE TabelleName = 'Wechsel'"), "30000");
 }
 
-TEST_P(ZweiSchreiberTest, TwoProcessesAllocatingForOneTableGetDistinctKeys) {
-    db().Execute("INSERT INTO IDIncrement (OffsetFaktor, TabelleName, LastID) VALUES (?, ?, ?)",
-                 {0, "0100_Messung", 19999});
-    lückenlos(zweiProzesse("0100_Messung", 10000), 20000, 20000);
-    EXPECT_EQ(wert("SELECT LastID FROM IDIncrement WHERE TabelleName = '0100_Messung'"), "39999");
-}
-
-// Neither process finds a counter for the table: the second to get the lock finds the one the first
-// has added, and counts on there.
+// Two processes allocating for one table get distinct keys. Neither finds a counter for the table:
+// the second to get the lock finds the one the first has added, and counts on there.
 TEST_P(ZweiSchreiberTest, TwoProcessesStartingWithoutACounterShareTheOneCreated) {
     lückenlos(zweiProzesse("0100_Stromkreis", 10000), 10000, 20000);
     EXPECT_EQ(wert("SELECT Count(*) FROM IDIncrement WHERE TabelleName = '0100_Stromkreis'"), "1");
@@ -188,7 +173,7 @@ TEST_P(ZweiSchreiberTest, EditLocksItsRowAndAWorkplaceThatDiesLeavesNoLock) {
         EXPECT_TRUE(istSpeicherausfall(f));
     }
     dort.MoveNext();
-    EXPECT_EQ(fehlerNummer([&] { dort.Edit(); }), GetParam() == test::Motor::Server ? 0 : 3260);
+    EXPECT_EQ(test::fehlernummer([&] { dort.Edit(); }), GetParam() == test::Motor::Server ? 0 : 3260);
     dort.CancelUpdate();
     hier.setField("Name", "Neu");
     hier.Update();
@@ -201,11 +186,11 @@ TEST_P(ZweiSchreiberTest, EditLocksItsRowAndAWorkplaceThatDiesLeavesNoLock) {
     test::Hilfsprozess::starten(sterbend, "kunde-sperren", {m_dbPfad});
     ASSERT_TRUE(sterbend.waitForReadyRead(20000));
     EXPECT_EQ(sterbend.readLine().trimmed(), "gesperrt");
-    EXPECT_EQ(fehlerNummer([&] { dort.Edit(); }), 3260);
+    EXPECT_EQ(test::fehlernummer([&] { dort.Edit(); }), 3260);
     sterbend.kill();
     sterbend.waitForFinished();
     andere.setWartezeit(std::chrono::milliseconds(10000));
-    EXPECT_EQ(fehlerNummer([&] { dort.Edit(); }), 0);
+    EXPECT_EQ(test::fehlernummer([&] { dort.Edit(); }), 0);
     dort.CancelUpdate();
 }
 
@@ -246,14 +231,14 @@ TEST_F(SqliteSperreTest, EditReadsTheRowAgainAndHoldsTheLockUntilTheRowIsDone) {
 
     rs.AddNew();
     rs.setField("KundeID", 2);
-    EXPECT_EQ(fehlerNummer([&] { rs.Update(); }), 3022);
+    EXPECT_EQ(test::fehlernummer([&] { rs.Update(); }), 3022);
     EXPECT_TRUE(fremder.kannSchreiben());
 
     rs.MoveNext();
     ASSERT_EQ(fremder.ausführen("DELETE FROM Kunde WHERE KundeID = 2"), SQLITE_OK);
-    EXPECT_EQ(fehlerNummer([&] { rs.Edit(); }), 3167);
+    EXPECT_EQ(test::fehlernummer([&] { rs.Edit(); }), 3167);
     EXPECT_TRUE(fremder.kannSchreiben());
-    EXPECT_EQ(fehlerNummer([&] { rs.Update(); }), 3020);
+    EXPECT_EQ(test::fehlernummer([&] { rs.Update(); }), 3020);
 }
 
 // A row written while another cursor of the connection holds the lock is committed with that hold,

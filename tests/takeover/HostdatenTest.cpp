@@ -65,40 +65,25 @@ QSet<QString> namenDesModells(const Variante& v, int felder, int modusfeld, int 
     return namen;
 }
 
+// Every name the decoder can give, of every model, is known to the table; which names a model
+// gives is the read-in tests' of the samples.
 TEST_F(HostdatenTest, Every37xxFunctionNameGoesSomewhere) {
-    const QSet<QString> gemeinsam{"Spannung Uac",     "Spannung f",       "R ISO, M, U",  "R ISO, E, Un",
-                                  "Z LOOP, M, Z",     "Z LOOP, M, Isc",   "Z LINE, M, Z", "Z LINE, M, Isc",
-                                  "RCD I, M, Id",     "RCD t, M, Ub",     "RCD t, G, Ub", "RCD t, E, Idn",
-                                  "RCD t, E, phase:", "RCD t, E, type :", "Re",           "Phase"};
-    const QSet<QString> älter{"R ISO, M, R", "LOW Ohm", "R LOOP N-PE, M, R", "RCD t, M, t",
-                              "RCD t, E, mult.:"};
-    const QSet<QString> kts{"m_Bemerkung", "m_KTS_INSUNE", "m_KTS_INSUPE", "m_KTS_INSUPN"};
-    const QSet<QString> nur3720{"m_KTS_INSUPP",      "m_KTS_CONTN", "m_KTS_CONTC",
-                                "m_KTS_CONTP",       "m_KTS_CONT+", "m_KTS_CONTR",
-                                "R LOOP N-PE, M, R", "RCD t, M, t", "RCD t, E, mult.:"};
-    const QSet<QString> zemak = namenDesModells(variante::zemak(), 9, 8, 0);
-    EXPECT_EQ(zemak, gemeinsam + älter);
-    EXPECT_EQ(namenDesModells(variante::zemak3710B(), 10, 8, 0),
-              gemeinsam + älter + QSet<QString>{"m_Bemerkung"});
-    const QSet<QString> z3720 = namenDesModells(variante::zemak3720(), 10, 8, 0);
-    EXPECT_EQ(z3720, gemeinsam + kts + nur3720);
-    EXPECT_EQ(namenDesModells(variante::quentavoir(), 10, 8, 0), z3720);
-    const QSet<QString> z3740 = namenDesModells(variante::zemak3740(), 19, 5, 6);
-    EXPECT_EQ(z3740, gemeinsam + kts + QSet<QString>{""});
-
-    for (const QString& name : zemak + z3720 + z3740)
-        EXPECT_EQ(wert("SELECT Count(*) FROM [0100_TeilFunktion] WHERE TeilFunktion = '" + name + "'"), "1")
+    QSet<QString> namen = namenDesModells(variante::zemak3740(), 19, 5, 6);
+    for (const Variante& v :
+         {variante::zemak(), variante::zemak3710B(), variante::zemak3720(), variante::quentavoir()})
+        namen += namenDesModells(v, 10, 8, 0);
+    namen.remove("");
+    EXPECT_GT(namen.size(), 25);
+    for (const QString& name : std::as_const(namen))
+        EXPECT_EQ(wert("SELECT Count(*) FROM [0100_TeilFunktion] WHERE TeilFunktion = ?", {name}), "1")
             << name.toStdString();
 }
 
 // The limit tables are copied into each other by position.
 TEST_F(HostdatenTest, LimitTablesKeepOneColumnOrder) {
-    QStringList standard = spaltenVon("0100_GrenzwertStandard");
-    QStringList grenzwert = spaltenVon("0100_Grenzwert");
-    ASSERT_EQ(standard.size(), grenzwert.size());
+    const QStringList standard = spaltenVon("0100_GrenzwertStandard");
+    const QStringList grenzwert = spaltenVon("0100_Grenzwert");
     EXPECT_EQ(standard.mid(1), grenzwert.mid(1));
-    EXPECT_EQ(grenzwert.first(), "MessID");
-    EXPECT_EQ(grenzwert.mid(grenzwert.size() - 2), (QStringList{"Grenzwert", "StromkreisID"}));
     EXPECT_EQ(anzahl("0100_GrenzwertStandard"), 1);
 }
 
