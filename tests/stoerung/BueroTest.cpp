@@ -1,7 +1,8 @@
-// An office of four workplaces on one database server, each with its own settings, work folder and
-// backups and its own instrument. They read their dumps in at the same time, round after round,
-// then all take over at once, and one of them is killed in the middle of it. Every measured row
-// arrives once, and the records equal those one workplace makes of the same dumps in a file.
+// An office of four workplaces on one database (a server's, or a file's on one machine), each with
+// its own settings, work folder and backups and its own instrument. They read their dumps in at the
+// same time, round after round, then all take over at once, and one of them is killed in the middle
+// of it. Every measured row arrives once, and the records equal those one workplace alone makes of
+// the same dumps in a file.
 #include "core/Schluesselvergabe.h"
 #include "store/Recordset.h"
 #include "store/Variant.h"
@@ -33,18 +34,8 @@ constexpr std::array<Arbeitsplatz, 4> Büro{{
     {"voltira.ser", "VOLTIRA 9KV", 3, 4},
 }};
 
-class BueroTest : public test::Testumgebung {
+class BueroTest : public test::Motorumgebung {
 protected:
-    void SetUp() override {
-        QString grund;
-        if (!test::Postgresserver::gestartet(&grund)) {
-            if (test::Postgresserver::pflicht())
-                FAIL() << grund.toStdString();
-            GTEST_SKIP() << grund.toStdString();
-        }
-        Testumgebung::SetUp();
-    }
-
     // A database set up as an office sets one up, and the test's own connection to it.
     void einrichten(const QString& name) {
         const test::Lauf lauf = test::vemo0100({"init-db", name, "--demo"});
@@ -121,7 +112,7 @@ protected:
     }
 };
 
-TEST_F(BueroTest, VierArbeitsplaetzeLesenUndUebernehmenGleichzeitigWieEinerAllein) {
+TEST_P(BueroTest, VierArbeitsplaetzeLesenUndUebernehmenGleichzeitigWieEinerAllein) {
     // One workplace alone on a database file: the records to compare with.
     einrichten(pfad("allein.db"));
     for (int runde = 0; runde < Runden; ++runde)
@@ -134,8 +125,9 @@ TEST_F(BueroTest, VierArbeitsplaetzeLesenUndUebernehmenGleichzeitigWieEinerAllei
     ASSERT_EQ(anzahl("0100_EinleseDaten"), 0);
     const QStringList allein = messwerte();
 
-    m_motor = test::Motor::Server;
-    einrichten(pfad("allein.db"));
+    QString grund;
+    einrichten(GetParam() == test::Motor::Server ? test::Postgresserver::gestartet(&grund)->leereDatenbank()
+                                                 : pfad("buero.db"));
     for (int runde = 0; runde < Runden; ++runde) {
         std::array<QProcess, Büro.size()> lesen;
         for (size_t i = 0; i < Büro.size(); ++i)
@@ -172,5 +164,7 @@ TEST_F(BueroTest, VierArbeitsplaetzeLesenUndUebernehmenGleichzeitigWieEinerAllei
     unterschiede.removeDuplicates();
     EXPECT_TRUE(unterschiede.isEmpty()) << unterschiede.mid(0, 8).join('\n').toStdString();
 }
+
+INSTANTIATE_TEST_SUITE_P(Motoren, BueroTest, test::beideMotoren, test::motorName);
 
 } // namespace

@@ -263,51 +263,6 @@ TEST_F(SqliteSperreTest, RowsWrittenUnderAnotherCursorsHoldStand) {
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
-// Two read-ins of one dump into one database at the same moment, as two workplaces might start
-// them: every row of both arrives, under keys of its own.
-TEST_F(SqliteSperreTest, TwoReadInsAtOnceBothLand) {
-    const QString vemo = QString(VEMO_BIN_DIR) + "/vemo0100";
-    const QString probe = test::quelle("samples/corvex-verteilung.ser");
-    const auto lauf = [&](const QString& db, const QString& wer, QProcess& p) {
-        p.start(vemo, {"--db", db, "--settings", pfad(wer + ".ini"), "--backup", QFileInfo(db).path(),
-                       "read-file", probe});
-    };
-    const auto zeilen = [](const QString& db) {
-        const Datenbank d = Datenbank::OpenDatabase(db);
-        return std::pair(d.OpenRecordset("SELECT Count(*) FROM 0100_EinleseDaten").Field(0).toInt(),
-                         d.OpenRecordset("SELECT Count(*) FROM 0100_EinleseMessDaten").Field(0).toInt());
-    };
-    const auto neueDatenbank = [&](const QString& name) {
-        QDir(m_dir.path()).mkpath(name);
-        const QString db = pfad(name + "/vemotrix.db");
-        EXPECT_EQ(QProcess::execute(vemo, {"init-db", db, "--demo"}), 0);
-        return db;
-    };
-
-    const QString allein = neueDatenbank("allein");
-    QProcess einer;
-    lauf(allein, "einer", einer);
-    ASSERT_TRUE(einer.waitForFinished(30000));
-    const auto einmal = zeilen(allein);
-    ASSERT_GT(einmal.first, 0);
-
-    for (int runde = 1; runde <= 4; ++runde) {
-        const QString db = neueDatenbank(QString("runde%1").arg(runde));
-        QProcess p[2];
-        lauf(db, "a", p[0]);
-        lauf(db, "b", p[1]);
-        for (QProcess& prozess : p) {
-            ASSERT_TRUE(prozess.waitForFinished(30000));
-            const QByteArray fehler = prozess.readAllStandardError();
-            EXPECT_FALSE(fehler.contains("3022")) << fehler.constData();
-            EXPECT_EQ(prozess.exitCode(), 0) << fehler.constData();
-        }
-        const auto beide = zeilen(db);
-        EXPECT_EQ(beide.first, 2 * einmal.first) << "round " << runde;
-        EXPECT_EQ(beide.second, 2 * einmal.second) << "round " << runde;
-    }
-}
-
 INSTANTIATE_TEST_SUITE_P(Motoren, ZweiSchreiberTest, test::beideMotoren, test::motorName);
 
 } // namespace
