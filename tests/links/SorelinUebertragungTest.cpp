@@ -12,11 +12,7 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QLabel>
 #include <QPointer>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 namespace vemo::test {
@@ -111,41 +107,6 @@ TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
     EXPECT_EQ(datei(), AlteDatei);
 }
 
-TEST_F(SorelinUebertragungTest, AbbruchLaesstDieAlteDateiStehen) {
-    struct Fall {
-        const char* name;
-        QList<QByteArray> stücke;
-    };
-    // Aborted at once, before anything came, and after the data block's head, before its end.
-    const QByteArray bild = SorelinBild(QByteArray(200, '\x11')).bytes();
-    for (const Fall& fall : {Fall{"at once", {}}, Fall{"after the head", {bild.left(bild.size() - 50)}}}) {
-        SCOPED_TRACE(fall.name);
-        auto instrument = speicherleitungEinstecken(0);
-        instrument->setPortOpen(true);
-        QString sendText;
-        imDialog([&](frmSorelin& form) {
-            if (fall.stücke.isEmpty()) {
-                form.abbrechen();
-                return;
-            }
-            sobaldBereit(form, [&] {
-                nacheinanderSenden(*instrument, fall.stücke, 1);
-                QTimer::singleShot(150, &form, [&form, &sendText] {
-                    sendText = form.sendText();
-                    form.abbrechen();
-                });
-            });
-        });
-
-        übertragen();
-
-        EXPECT_EQ(modul().Abbruchmerker, 1);
-        EXPECT_TRUE(m_ui.meldungen.isEmpty());
-        EXPECT_EQ(datei(), AlteDatei);
-        EXPECT_EQ(sendText, fall.stücke.isEmpty() ? QString() : QString("Datenübertragung läuft..."));
-    }
-}
-
 TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
     modul().portPfad = pfad("kein-port");
     übertragen();
@@ -153,23 +114,10 @@ TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("8002 ")) << m_ui.meldungen[0].text.toStdString();
     EXPECT_EQ(modul().Abbruchmerker, 1);
 
-    // A port already open is told by its text alone.
-    m_ui.meldungen.clear();
-    modul().portPfad.clear();
-    auto instrument = speicherleitungEinstecken();
-    modul().commPortFabrik = [fabrik = modul().commPortFabrik] {
-        auto p = fabrik();
-        p->setPortOpen(true);
-        return p;
-    };
-    übertragen();
-    ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith(fehler::mit(fehler::PortBereitsGeöffnet).beschreibung()))
-        << m_ui.meldungen[0].text.toStdString();
-
     // A data block longer than 32767 bytes overflows the length's 16-bit arithmetic.
     m_ui.meldungen.clear();
-    instrument = speicherleitungEinstecken(0);
+    modul().portPfad.clear();
+    auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
     imDialog([&](frmSorelin& form) {
         sobaldBereit(
@@ -181,42 +129,33 @@ TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
     EXPECT_EQ(datei(), AlteDatei);
 }
 
-TEST_F(SorelinUebertragungTest, FensterZeigtFortschrittUndSchliessenBrichtAb) {
+TEST_F(SorelinUebertragungTest, FensterSchliessenBrichtAb) {
     QtUi qtUi(ansichten());
     modul().ui = &qtUi;
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
-    const QByteArray bild = SorelinBild(QByteArray(300, '\x11')).bytes();
     frmSorelin form;
     form.setEinschwingzeit(10);
     QPointer<QDialog> fenster;
-    QLabel* prozent = nullptr;
-    QProgressBar* balken = nullptr;
-    const auto nachsehen = [&] {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == "frmSorelin")
-                fenster = qobject_cast<QDialog*>(w);
-        if (!fenster)
-            return form.abbrechen();
-        EXPECT_EQ(fenster->windowTitle(), "vemotrix professional - Serielle Datenübertragung");
-        prozent = fenster->findChild<QLabel*>("labProzent");
-        balken = fenster->findChild<QProgressBar*>("Bar1");
-        EXPECT_EQ(fenster->findChild<QLabel*>("labSendText")->text(), "Datenübertragung läuft...");
-        EXPECT_EQ(prozent->text(), form.prozentText());
-        EXPECT_EQ(balken->value(), 150);
-        EXPECT_EQ(balken->maximum(), form.fortschrittMax());
-        fenster->close();
-        EXPECT_FALSE(fenster->isVisible());
-    };
+    bool gefunden = false;
     sobaldBereit(form, [&] {
-        instrument->Output(bild.left(150));
-        QTimer::singleShot(200, &form, nachsehen);
+        instrument->Output(SorelinBild(QByteArray(300, '\x11')).bytes().left(150));
+        QTimer::singleShot(200, &form, [&] {
+            for (QWidget* w : QApplication::topLevelWidgets())
+                if (w->objectName() == "frmSorelin")
+                    fenster = qobject_cast<QDialog*>(w);
+            if (!fenster)
+                return form.abbrechen();
+            gefunden = true;
+            EXPECT_EQ(fenster->windowTitle(), "vemotrix professional - Serielle Datenübertragung");
+            fenster->close();
+        });
     });
 
     form.zeigen();
     modul().ui = &m_ui;
 
-    EXPECT_TRUE(prozent && balken);
+    EXPECT_TRUE(gefunden) << "the view is found by the controller's class";
     EXPECT_EQ(modul().Abbruchmerker, 1) << "closing the window aborts";
     EXPECT_EQ(datei(), AlteDatei);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
