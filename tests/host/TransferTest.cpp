@@ -85,24 +85,6 @@ TEST_F(TransferTest, AReceivedDumpIsParsedAndCopied) {
     EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000001");
 }
 
-TEST_F(TransferTest, AnAbortDuringReceptionKeepsWhatCameAndParsesNothing) {
-    sim::MultitesterGerät gerät(test::inhalt(test::quelle("samples/corvex-verteilung.ser")), {2400, 60});
-    sim::PortLeitung leitung(*m_leitung, gerät);
-    imDialog([&gerät](Form2& form) {
-        QTimer::singleShot(100, &form, [&gerät] { gerät.tasteGedrückt(); });
-        QTimer::singleShot(900, &form, [&form] { form.abbrechen(); });
-    });
-
-    m_komponente->DatenEmpfangen();
-
-    EXPECT_EQ(m_ui.texte(), QStringList{"Datenübertragung abgebrochen"});
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
-    EXPECT_TRUE(sicherungen().isEmpty());
-    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "");
-    EXPECT_TRUE(test::inhalt(arbeitsdatei(datei::Ruvo)).startsWith("RUVO GmbH"));
-}
-
 TEST_F(TransferTest, AnEmpty37xxMemoryEndsTheTransferWithTwoMessages) {
     const auto sim = zemakEinstecken(103, {"--records", "0"});
     m_komponente->DatenEmpfangen();
