@@ -4,8 +4,8 @@
 #include "ansichten/Ansichten.h"
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
-#include "support/Leitung.h"
 #include "platform/Version.h"
+#include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
 #include <QAction>
