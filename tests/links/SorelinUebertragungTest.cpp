@@ -58,18 +58,11 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
     const QByteArray daten = QByteArray::fromHex("8180F5820023");
     const QByteArray rest =
         QByteArray::fromHex("D5D5 00 0A0111 0A00") + SorelinBild(daten).datenblock() + sorelin::Endmarke;
-    QList<int> prozente;
-    bool blinktUnterwegs = true;
     QByteArray dateiUnterwegs;
     imDialog([&](frmSorelin& form) {
         QObject::connect(&form, &frmSorelin::aktualisiert, &form, [&] {
-            if (form.prozentText().isEmpty())
-                return;
-            if (prozente.isEmpty()) {
-                blinktUnterwegs = form.blinkt();
+            if (dateiUnterwegs.isEmpty() && !form.prozentText().isEmpty())
                 dateiUnterwegs = datei();
-            }
-            prozente << form.prozentText().chopped(1).trimmed().toInt();
         });
         sobaldBereit(form, [&] {
             nacheinanderSenden(*instrument, {"\x01\x02\xFF\xD5", rest.left(8), rest.mid(8, 5), rest.mid(13)},
@@ -85,11 +78,6 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
     EXPECT_EQ(dateiUnterwegs, AlteDatei) << "the old file stays until the end mark";
     EXPECT_EQ(modul().Abbruchmerker, 0);
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_FALSE(blinktUnterwegs) << "the prompt stops blinking with the start mark";
-    ASSERT_FALSE(prozente.isEmpty());
-    EXPECT_TRUE(std::is_sorted(prozente.begin(), prozente.end()));
-    EXPECT_GE(prozente.last(), 90);
-    EXPECT_LE(prozente.last(), 100);
 }
 
 TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
