@@ -11,17 +11,13 @@ namespace vemo::test {
 namespace {
 
 using sim::kontalexBlock;
-using sim::Messung;
 
 class KontalexDekoderTest : public Testumgebung {
 protected:
-    static QList<Ortsgruppe> dekodieren(const QString& modell, const QByteArray& dump,
-                                        bool* logger = nullptr) {
+    static QList<Ortsgruppe> dekodieren(const QString& modell, const QByteArray& dump) {
         KontalexDekoder d(kontalexModell(modell), "Anlage 1");
         QList<Ortsgruppe> gruppen;
         d.dekodieren(dump, [&](const Ortsgruppe& g) { gruppen << g; });
-        if (logger)
-            *logger = d.loggerDaten();
         return gruppen;
     }
     static QStringList zeilen(const QList<Messzeile>& zeilen) {
@@ -30,31 +26,8 @@ protected:
             t << z.funktion + "|" + z.art + "|" + z.wertname + "|" + z.wert + "|" + z.einheit;
         return t;
     }
-    static QStringList orte(const QList<Ortsgruppe>& gruppen) {
-        QStringList t;
-        for (const Ortsgruppe& g : gruppen)
-            t << QString("%1 %2 %3 [%4|%5|%6] %7 %8")
-                     .arg(g.objekt)
-                     .arg(g.stromkreis)
-                     .arg(g.platz)
-                     .arg(g.objektText, g.stromkreisText, g.platzText, g.zeit, g.datum);
-        return t;
-    }
     QByteArray lesen(const QString& name) const { return inhalt(pfad(name)); }
 };
-
-// The short form keeps no clock and numbers no objects: the caller's object text stands once.
-TEST_F(KontalexDekoderTest, KurzeFormMitAnlagentextUndFestenZeiten) {
-    const Messung schleife{106, {{'R', 119, 103, "0.41"}, {'R', 120, 107, "561"}, {'R', 200, 103, "x"}}};
-    const QByteArray dump = kontalexBlock(Blockform::Kurz, {9, 3, 1, "10:00", "1.1.2024"}, schleife) +
-                            kontalexBlock(Blockform::Kurz, {9, 3, 2, "10:01", "1.1.2024"}, schleife);
-    const QList<Ortsgruppe> gruppen = dekodieren("PRAVITONIX", dump);
-    EXPECT_EQ(orte(gruppen),
-              (QStringList{"1 3 1 [Anlage 1|003|001] 00:00 01.01.00", "1 3 2 [||002] 00:00 01.01.00"}));
-    EXPECT_EQ(zeilen(gruppen[0].zeilen),
-              (QStringList{"R LOOP PRAVITONIX|M|R|0.41|Ohm", "R LOOP PRAVITONIX|M|Ik|561|A",
-                           "R LOOP PRAVITONIX|M|R|x|Ohm"}));
-}
 
 // Fields shorter than three bytes say nothing; the logger's function code is noticed; a code
 // beyond its table stops the walk with the bounds error, the groups before it delivered.
