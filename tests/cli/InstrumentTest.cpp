@@ -84,7 +84,14 @@ TEST_F(InstrumentTest, ClearingTheMemoryAsksFirst) {
     EXPECT_TRUE(nein.fehler.contains(
         "vemotrix professional - Prüfgerätespeicher löschen: Sicher Prüfgerätespeicher?"))
         << nein.fehler.toStdString();
-    EXPECT_EQ(vemo({"receive"}, {"--port", pfad("port")}).status, 0);
+    // The memory still there: received with the query dialog's lines on the console, its share in
+    // tens, and read in.
+    const Lauf empfang = vemo({"receive"}, {"--port", pfad("port")});
+    EXPECT_EQ(empfang.status, 0);
+    EXPECT_TRUE(
+        empfang.fehler.contains("ZEMAK 3710B V3.02 gefunden\n3 Messungen werden übertragen. Bitte warten!\n"))
+        << empfang.fehler.toStdString();
+    EXPECT_TRUE(empfang.fehler.endsWith("\n100%\n")) << empfang.fehler.toStdString();
     const Datenbank cli = Datenbank::OpenDatabase(db());
     EXPECT_EQ(cli.OpenRecordset("SELECT Count(*) FROM 0100_EinleseDaten").Field(0).toInt(), 3);
 
