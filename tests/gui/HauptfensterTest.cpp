@@ -5,6 +5,8 @@
 #include "host/Modul15a.h"
 #include "language/SprachDatenbank.h"
 #include "platform/Version.h"
+#include "support/Dateien.h"
+#include "support/Kommandozeile.h"
 #include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
@@ -66,35 +68,11 @@ TEST_F(HauptfensterTest, TheSettingsCommandShowsTheInstrumentOnThePort) {
     EXPECT_EQ(wert("SELECT wert FROM init WHERE name = 'Kundencodestellen3720'"), "2") << "saved on closing";
 }
 
-// A file that is no database is refused and the database before it stays open and usable; the
-// field shows the database in use and cannot be typed into.
-TEST_F(HauptfensterTest, AFileThatIsNoDatabaseLeavesTheOpenOneInUse) {
+// Without a database a command that needs one says so and offers the choice; a cancelled choice
+// runs nothing, one chosen there serves the command at once. The field shows the database in use
+// and cannot be typed into; a file that is no database is refused and the open one stays in use.
+TEST_F(HauptfensterTest, ACommandOffersTheChoiceOfADatabaseAndOneThatIsNoneIsRefused) {
     spracheDatenbankAnlegen(m_dir.path());
-    vemo0100Modul15a komponente(m_ui, m_settings);
-    Hauptfenster fenster(komponente, m_settings, m_dbPfad);
-    auto* feld = fenster.findChild<QLineEdit*>();
-    ASSERT_TRUE(feld);
-    EXPECT_TRUE(feld->isReadOnly());
-    EXPECT_EQ(feld->text(), m_dbPfad);
-
-    QFile kein(pfad("notizen.db"));
-    ASSERT_TRUE(kein.open(QIODevice::WriteOnly));
-    kein.write("Das ist keine Datenbank, sondern eine Notiz.\n");
-    kein.close();
-    m_ui.gewählteDatei = kein.fileName();
-    fenster.findChild<QPushButton*>("DatenbankWaehlen")->click();
-    ASSERT_EQ(m_ui.meldungen.size(), 1) << m_ui.texte().join("; ").toStdString();
-    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("3343 ")) << m_ui.meldungen[0].text.toStdString();
-    EXPECT_EQ(feld->text(), m_dbPfad);
-    EXPECT_EQ(m_settings.GetSetting("Host", "Datenbank"), m_dbPfad);
-
-    auslösen(fenster, "Einlesedaten");
-    EXPECT_EQ(m_ui.texte().last(), "Es sind keine Eilnlesedaten vorhanden");
-}
-
-// Without a database a command that needs one says so and offers the choice; one chosen there
-// serves the command at once, and a cancelled choice runs nothing.
-TEST_F(HauptfensterTest, WithoutADatabaseACommandOffersTheChoiceOfOne) {
     modul().db.Close();
     vemo0100Modul15a komponente(m_ui, m_settings);
     Hauptfenster fenster(komponente, m_settings);
@@ -111,13 +89,22 @@ TEST_F(HauptfensterTest, WithoutADatabaseACommandOffersTheChoiceOfOne) {
     EXPECT_TRUE(m_ui.dateiDialoge[0].filter.endsWith("|Alle Dateien (*)|*"));
     EXPECT_TRUE(komponente.vemotrixDB().istOffen());
     EXPECT_EQ(m_ui.texte().last(), "Es sind keine Eilnlesedaten vorhanden");
-}
 
-struct Lauf {
-    int status;
-    QString aus;
-    QString fehler;
-};
+    auto* feld = fenster.findChild<QLineEdit*>();
+    ASSERT_TRUE(feld);
+    EXPECT_TRUE(feld->isReadOnly());
+    EXPECT_EQ(feld->text(), m_dbPfad);
+    m_ui.meldungen.clear();
+    m_ui.gewählteDatei = pfad("notizen.db");
+    schreiben(pfad("notizen.db"), "Das ist keine Datenbank, sondern eine Notiz.\n");
+    fenster.findChild<QPushButton*>("DatenbankWaehlen")->click();
+    ASSERT_EQ(m_ui.meldungen.size(), 1) << m_ui.texte().join("; ").toStdString();
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("3343 ")) << m_ui.meldungen[0].text.toStdString();
+    EXPECT_EQ(feld->text(), m_dbPfad);
+    EXPECT_EQ(m_settings.GetSetting("Host", "Datenbank"), m_dbPfad);
+    auslösen(fenster, "Einlesedaten");
+    EXPECT_EQ(m_ui.texte().last(), "Es sind keine Eilnlesedaten vorhanden");
+}
 
 Lauf vemotrix(const QStringList& argumente, const QString& plattform) {
     QProcess p;
