@@ -11,7 +11,6 @@
 #include "grid/GridBefehle.h"
 #include "host/Modul15a.h"
 #include "links/SorelinUebertragung.h"
-#include "store/Recordset.h"
 
 #include <QDir>
 #include <QMap>
@@ -53,12 +52,11 @@ protected:
     // The values of the read-in row of a circuit, by function name.
     QMap<QString, QString> werteDesKreises(const QString& stromkreisNr) const {
         QMap<QString, QString> werte;
-        Recordset m = db().OpenRecordset("SELECT m.Funktion, m.wert FROM 0100_EinleseMessDaten m JOIN "
-                                         "0100_EinleseDaten d ON d.MessungID = "
-                                         "m.MessungID WHERE d.StromkreisNr = '" +
-                                         stromkreisNr + "'");
-        for (; !m.Eof(); m.MoveNext())
-            werte.insert(m.Text("Funktion"), m.Text("wert"));
+        for (const QString& z :
+             zeilen("SELECT m.Funktion, m.wert FROM 0100_EinleseMessDaten m JOIN 0100_EinleseDaten "
+                    "d ON d.MessungID = m.MessungID WHERE d.StromkreisNr = ?",
+                    {stromkreisNr}))
+            werte.insert(z.section('|', 0, 0), z.section('|', 1));
         return werte;
     }
     // Columns of the measurement row (m) and its limit row (g) of a circuit of the new inspection.
