@@ -80,7 +80,7 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
 }
 
-TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
+TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartOderEinFruehesAbbrechenEndetOhneZuSpeichern) {
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
     imDialog([&](frmSorelin& form) {
@@ -93,6 +93,14 @@ TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
     EXPECT_EQ(m_ui.texte(), QStringList{"Blockkennung nicht bekannt"});
     EXPECT_EQ(modul().Abbruchmerker, 1);
     EXPECT_EQ(datei(), AlteDatei);
+
+    // Aborted before the transfer begins: nothing is waited for and nothing told.
+    m_ui.meldungen.clear();
+    imDialog([](frmSorelin& form) { form.abbrechen(); });
+    übertragen();
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(datei(), AlteDatei);
 }
 
 TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
@@ -102,10 +110,23 @@ TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("8002 ")) << m_ui.meldungen[0].text.toStdString();
     EXPECT_EQ(modul().Abbruchmerker, 1);
 
-    // A data block longer than 32767 bytes overflows the length's 16-bit arithmetic.
+    // A port already open is told by its text alone.
     m_ui.meldungen.clear();
     modul().portPfad.clear();
-    auto instrument = speicherleitungEinstecken(0);
+    auto instrument = speicherleitungEinstecken();
+    modul().commPortFabrik = [fabrik = modul().commPortFabrik] {
+        auto p = fabrik();
+        p->setPortOpen(true);
+        return p;
+    };
+    übertragen();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith(fehler::mit(fehler::PortBereitsGeöffnet).beschreibung()))
+        << m_ui.meldungen[0].text.toStdString();
+
+    // A data block longer than 32767 bytes overflows the length's 16-bit arithmetic.
+    m_ui.meldungen.clear();
+    instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
     imDialog([&](frmSorelin& form) {
         sobaldBereit(

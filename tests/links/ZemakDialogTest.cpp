@@ -5,6 +5,8 @@
 #include "ZemakGeraet.h"
 #include "core/Geraetetypen.h"
 
+#include <QTest>
+
 namespace vemo::test {
 namespace {
 
@@ -156,6 +158,33 @@ TEST_F(ZemakDialogTest, PortfehlerBeimOeffnen) {
     EXPECT_TRUE(nochOffen);
     EXPECT_EQ(m_ui.texte(), QStringList{portfehler::mit(8015, "/dev/ttyS0").meldung()});
     EXPECT_EQ(modul().Abbruchmerker, 1);
+}
+
+TEST_F(ZemakDialogTest, AbbruchMittenImUhrStellenEndetSofort) {
+    // An instrument that answers "ID" and nothing else: the dialog waits for the clock's reply.
+    const Zemakvariante& v = variante(selektor::Zemak3740);
+    ruvoVorbelegen();
+    auto instrument = leitungEinstecken();
+    instrument->setRThreshold(1);
+    instrument->setPortOpen(true);
+    QByteArray gehört;
+    QObject::connect(instrument.get(), &CommPort::comm, instrument.get(), [&](int) {
+        const QByteArray neu = instrument->Input();
+        gehört += neu;
+        if (neu.contains("ID\r"))
+            instrument->Output(sim::zemakKennung(v) + "\r");
+    });
+
+    übertragen(selektor::Zemak3740, [&](frmZEMAK& form) {
+        sobald(
+            form, [&] { return gehört.contains("XG\r"); }, [&form] { form.abbrechen(); });
+    });
+    QTest::qWait(100); // what was sent in the last moments arrives
+
+    EXPECT_FALSE(gehört.contains("XS,") || gehört.contains("~QD 2.")) << "nothing is sent after the abort";
+    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_EQ(ruvo(), AlteDatei);
 }
 
 } // namespace
