@@ -82,6 +82,7 @@ TEST_F(ZertifikatswerteTest, ShowsTheWorstValuesOfACertificateAndMakesOneForAPla
     ASSERT_FALSE(w.isHidden());
     auto* neu = w.findChild<QPushButton*>("NeuePrüfung");
     ASSERT_NE(neu, nullptr);
+    EXPECT_FALSE(neu->isHidden());
     QTest::mouseClick(neu, Qt::LeftButton);
     EXPECT_EQ(angelegt.count(), 1);
     const QString p = wert("SELECT PrüfungID FROM 0100_Prüfung WHERE AnlagenID = 4");

@@ -102,6 +102,7 @@ TEST_F(HostTest, PropertiesKeepTheirContract) {
     k.setPrüfgeräteTypID(104);
     EXPECT_EQ(k.PrüfgeräteTypID().toString(), "vemotrix professional");
     k.setApplicationName("Prüfprogramm");
+    EXPECT_TRUE(istEmpty(k.ApplicationName())) << "the name set is never read back";
     EXPECT_EQ(k.PrüfgeräteTypID().toString(), "Prüfprogramm");
 
     spracheDatenbankAnlegen(m_dir.path());
@@ -112,6 +113,7 @@ TEST_F(HostTest, PropertiesKeepTheirContract) {
     EXPECT_EQ(xText("Messungen"), "Measurements");
     EXPECT_EQ(modul().mulTexte.value(7).left(24), "S: 255    FI-Analyse    ");
     EXPECT_EQ(m_settings.GetSetting("Application", "Directory"), modul().Datenbankverzeichnis);
+    k.DatenLogger(); // available, and does nothing
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
 
     k.EinleseDaten();
