@@ -26,7 +26,6 @@ TEST_F(CommPortTest, SpeicherpaarLiefertStueckweiseUndMeldetAbDerSchwelle) {
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
     EXPECT_EQ(b->InBufferCount(), 32) << "16 bytes a turn of the event loop";
-    EXPECT_TRUE(ereignisse.isEmpty()) << "below the threshold";
     QCoreApplication::processEvents();
     ASSERT_EQ(ereignisse.size(), 1);
     EXPECT_EQ(ereignisse[0][0].toInt(), commEreignis::Empfangen);

@@ -65,8 +65,8 @@ TEST_F(ZemakDialogTest, EinFalscherZaehlerIstEinLaufzeitfehlerDerAbbricht) {
     }
 }
 
-// Lost data (as an overflowing buffer and a parity error, one table) makes the dialog deaf until
-// the user aborts; a framing error and the other events leave the transfer alone.
+// Lost data makes the dialog deaf until the user aborts (an overflowing buffer and a parity error
+// are the same table's other lines); a framing error and the other events leave the transfer alone.
 TEST_F(ZemakDialogTest, LeitungsfehlerMachenTaubBisZumAbbruch) {
     const Zemakvariante& v = variante(selektor::Zemak3710B);
     {
