@@ -35,7 +35,7 @@ protected:
     QString m_db;
 };
 
-TEST_F(LoggerBefehlTest, StartSpeichertDieReiheUndJsonZeigtSie) {
+TEST_F(LoggerBefehlTest, StartSpeichertDieReiheUndOhneAnlageOderStartNichts) {
     const QStringList auswahl{"--customer", "1", "--plant", "2"};
     const Lauf gespeichert = lesen(auswahl, {"--start", "14.03.2026 07:30:00"});
     EXPECT_EQ(gespeichert.status, 0) << gespeichert.fehler.toStdString();
@@ -54,9 +54,8 @@ TEST_F(LoggerBefehlTest, StartSpeichertDieReiheUndJsonZeigtSie) {
     EXPECT_EQ(punkte[0].toObject()["time"].toString(), "2026-03-15T00:01:00");
     EXPECT_EQ(punkte[5].toObject()["time"].toString(), "2026-03-15T00:06:00");
     EXPECT_DOUBLE_EQ(punkte[5].toObject()["value"].toDouble(), 232.1);
-}
 
-TEST_F(LoggerBefehlTest, OhneAnlageOderStartWirdNichtsGespeichert) {
+    // Without a plant or a start nothing is stored.
     const Lauf ohneAnlage = lesen({"--customer", "1"}, {"--start", "14.03.2026 07:30:00"});
     EXPECT_EQ(ohneAnlage.status, 1);
     EXPECT_TRUE(ohneAnlage.fehler.contains("Zuvor eine Anlage...")) << ohneAnlage.fehler.toStdString();

@@ -6,6 +6,8 @@
 #include "language/SprachDatenbank.h"
 #include "platform/Version.h"
 #include "store/Schema.h"
+#include "support/Dateien.h"
+#include "support/Kommandozeile.h"
 #include "support/Leitung.h"
 #include "support/Testumgebung.h"
 
@@ -67,44 +69,12 @@ TEST_F(HauptfensterTest, TheSettingsCommandShowsTheInstrumentOnThePort) {
     EXPECT_EQ(wert("SELECT wert FROM init WHERE name = 'Kundencodestellen3720'"), "2") << "saved on closing";
 }
 
-// A file that is no database, picked or typed, and a server that cannot be reached are refused,
-// and the database before them stays open and usable; the field shows the database in use.
-TEST_F(HauptfensterTest, AFileThatIsNoDatabaseLeavesTheOpenOneInUse) {
+// Without a database a command that needs one says so and offers the choice; a cancelled choice
+// runs nothing, one chosen there serves the command at once. The field shows the database in use;
+// a file that is no database, picked or typed, and a server that cannot be reached are refused
+// and the open one stays in use; a name typed that is a database is taken.
+TEST_F(HauptfensterTest, ACommandOffersTheChoiceOfADatabaseAndOneThatIsNoneIsRefused) {
     spracheDatenbankAnlegen(m_dir.path());
-    vemo0100Modul15a komponente(m_ui, m_settings);
-    Hauptfenster fenster(komponente, m_settings, m_dbPfad);
-    auto* feld = fenster.findChild<QLineEdit*>("Datenbank");
-    ASSERT_TRUE(feld);
-    EXPECT_EQ(feld->text(), m_dbPfad);
-    feld->setText("postgresql://niemand@/vemotrix?host=" + pfad("kein-server"));
-    emit feld->editingFinished();
-    ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_EQ(feld->text(), m_dbPfad);
-    m_ui.meldungen.clear();
-
-    QFile kein(pfad("notizen.db"));
-    ASSERT_TRUE(kein.open(QIODevice::WriteOnly));
-    kein.write("Das ist keine Datenbank, sondern eine Notiz.\n");
-    kein.close();
-    m_ui.gewählteDatei = kein.fileName();
-    fenster.findChild<QPushButton*>("DatenbankWaehlen")->click();
-    ASSERT_EQ(m_ui.meldungen.size(), 1) << m_ui.texte().join("; ").toStdString();
-    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("3343 ")) << m_ui.meldungen[0].text.toStdString();
-    EXPECT_EQ(feld->text(), m_dbPfad);
-    EXPECT_EQ(m_settings.GetSetting("Host", "Datenbank"), m_dbPfad);
-
-    auslösen(fenster, "Einlesedaten");
-    EXPECT_EQ(m_ui.texte().last(), "Es sind keine Eilnlesedaten vorhanden");
-
-    datenbankAnlegen(pfad("zweite.db"), false);
-    feld->setText(pfad("zweite.db"));
-    emit feld->editingFinished();
-    EXPECT_EQ(m_settings.GetSetting("Host", "Datenbank"), pfad("zweite.db")) << "a typed name is taken";
-}
-
-// Without a database a command that needs one says so and offers the choice; one chosen there
-// serves the command at once, and a cancelled choice runs nothing.
-TEST_F(HauptfensterTest, WithoutADatabaseACommandOffersTheChoiceOfOne) {
     modul().db.Close();
     vemo0100Modul15a komponente(m_ui, m_settings);
     Hauptfenster fenster(komponente, m_settings);
@@ -121,13 +91,31 @@ TEST_F(HauptfensterTest, WithoutADatabaseACommandOffersTheChoiceOfOne) {
     EXPECT_TRUE(m_ui.dateiDialoge[0].filter.endsWith("|Alle Dateien (*)|*"));
     EXPECT_TRUE(komponente.vemotrixDB().istOffen());
     EXPECT_EQ(m_ui.texte().last(), "Es sind keine Eilnlesedaten vorhanden");
-}
 
-struct Lauf {
-    int status;
-    QString aus;
-    QString fehler;
-};
+    auto* feld = fenster.findChild<QLineEdit*>("Datenbank");
+    ASSERT_TRUE(feld);
+    EXPECT_EQ(feld->text(), m_dbPfad);
+    m_ui.meldungen.clear();
+    feld->setText("postgresql://niemand@/vemotrix?host=" + pfad("kein-server"));
+    emit feld->editingFinished();
+    ASSERT_EQ(m_ui.meldungen.size(), 1);
+    EXPECT_EQ(feld->text(), m_dbPfad);
+    m_ui.meldungen.clear();
+    m_ui.gewählteDatei = pfad("notizen.db");
+    schreiben(pfad("notizen.db"), "Das ist keine Datenbank, sondern eine Notiz.\n");
+    fenster.findChild<QPushButton*>("DatenbankWaehlen")->click();
+    ASSERT_EQ(m_ui.meldungen.size(), 1) << m_ui.texte().join("; ").toStdString();
+    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("3343 ")) << m_ui.meldungen[0].text.toStdString();
+    EXPECT_EQ(feld->text(), m_dbPfad);
+    EXPECT_EQ(m_settings.GetSetting("Host", "Datenbank"), m_dbPfad);
+    auslösen(fenster, "Einlesedaten");
+    EXPECT_EQ(m_ui.texte().last(), "Es sind keine Eilnlesedaten vorhanden");
+
+    datenbankAnlegen(pfad("zweite.db"), false);
+    feld->setText(pfad("zweite.db"));
+    emit feld->editingFinished();
+    EXPECT_EQ(m_settings.GetSetting("Host", "Datenbank"), pfad("zweite.db"));
+}
 
 Lauf vemotrix(const QStringList& argumente, const QString& plattform) {
     QProcess p;

@@ -10,7 +10,6 @@
 #include "host/DateiEinlesen.h"
 #include "host/Modul15a.h"
 #include "host/VerteilerListe.h"
-#include "store/Recordset.h"
 #include "store/Variant.h"
 
 #include <QDir>
@@ -40,18 +39,10 @@ protected:
 
     // The read-in rows without their keys: where, when, and the values.
     QStringList einlesezeilen() const {
-        QStringList zeilen;
-        Recordset b = db().OpenRecordset("SELECT * FROM 0100_EinleseDaten ORDER BY MessungID");
-        for (; !b.Eof(); b.MoveNext()) {
-            QString z = b.Text("AnlageNr") + "/" + b.Text("VerteilerNr") + "/" + b.Text("StromkreisNr") +
-                        " " + b.Text("Datum") + " " + b.Text("Uhrzeit") + ":";
-            Recordset w = db().OpenRecordset("SELECT * FROM 0100_EinleseMessDaten WHERE MessungID = " +
-                                             b.Text("MessungID") + " ORDER BY rowid");
-            for (; !w.Eof(); w.MoveNext())
-                z += " " + w.Text("Funktion") + "=" + w.Text("wert") + w.Text("Einheit");
-            zeilen << z;
-        }
-        return zeilen;
+        return zeilen(
+            "SELECT AnlageNr, VerteilerNr, StromkreisNr, Datum, Uhrzeit, (SELECT group_concat(Funktion "
+            "|| '=' || ifnull(wert, '') || ifnull(Einheit, ''), ' ') FROM 0100_EinleseMessDaten w WHERE "
+            "w.MessungID = d.MessungID) FROM 0100_EinleseDaten d ORDER BY MessungID");
     }
     // How many rows of the new inspections in the table hold the value in the column ("Spalte=wert").
     long gefunden(const QString& tabelle, const QString& paar) const {

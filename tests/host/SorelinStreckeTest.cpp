@@ -11,11 +11,9 @@
 #include "grid/GridBefehle.h"
 #include "host/Modul15a.h"
 #include "links/SorelinUebertragung.h"
-#include "store/Recordset.h"
 
 #include <QDir>
 #include <QMap>
-#include <QProcess>
 #include <QTimer>
 
 using namespace vemo;
@@ -54,12 +52,11 @@ protected:
     // The values of the read-in row of a circuit, by function name.
     QMap<QString, QString> werteDesKreises(const QString& stromkreisNr) const {
         QMap<QString, QString> werte;
-        Recordset m = db().OpenRecordset("SELECT m.Funktion, m.wert FROM 0100_EinleseMessDaten m JOIN "
-                                         "0100_EinleseDaten d ON d.MessungID = "
-                                         "m.MessungID WHERE d.StromkreisNr = '" +
-                                         stromkreisNr + "'");
-        for (; !m.Eof(); m.MoveNext())
-            werte.insert(m.Text("Funktion"), m.Text("wert"));
+        for (const QString& z :
+             zeilen("SELECT m.Funktion, m.wert FROM 0100_EinleseMessDaten m JOIN 0100_EinleseDaten "
+                    "d ON d.MessungID = m.MessungID WHERE d.StromkreisNr = ?",
+                    {stromkreisNr}))
+            werte.insert(z.section('|', 0, 0), z.section('|', 1));
         return werte;
     }
     // Columns of the measurement row (m) and its limit row (g) of a circuit of the new inspection.
@@ -104,10 +101,6 @@ TEST_F(SorelinStreckeTest, BeideGeraetetypenVomSimulatorBisInsPruefprotokoll) {
         EXPECT_EQ(wert("SELECT Group_Concat(StromkreisNr, ' ') FROM 0100_EinleseDaten"), "0001 0002 0003");
         EXPECT_EQ(wert("SELECT PrüfgerätName FROM 0100_EinleseGeräteDaten"), t.name);
 
-        QString json;
-        QTextStream aus(&json);
-        ASSERT_EQ(gridBefehl(true, aus), 0);
-        EXPECT_EQ(json.count("\"nr\""), 3);
         ASSERT_EQ(zuordnenBefehl("1-3", "1", "1"), 0); // Bäckerei Sommer
         ASSERT_EQ(zuordnenBefehl("1-3", "2", "2"), 0); // her plant 002 Verkaufsraum
         const QMap<QString, QString> gelesen = werteDesKreises("0002");
@@ -128,40 +121,6 @@ TEST_F(SorelinStreckeTest, BeideGeraetetypenVomSimulatorBisInsPruefprotokoll) {
         EXPECT_FALSE(kreis("0002", "g.FIRE").isEmpty());
         sql("DELETE FROM \"0100_Messung\"; DELETE FROM \"0100_Grenzwert\"; DELETE FROM \"0100_Stromkreis\";");
     }
-}
-
-// What a user does to read an instrument type that came after the build: a driver table written
-// with the sqlite3 program into the host's database.
-TEST_F(SorelinStreckeTest, EineVonHandAngelegteTreibertabelleGiltBeimNaechstenLesen) {
-    QProcess sqlite3;
-    sqlite3.start("sqlite3", {m_dbPfad});
-    sqlite3.write(
-        "CREATE TABLE \"4711Sorelin\" (\"1\" TEXT, \"2\" TEXT, \"3\" TEXT, \"7\" TEXT, \"8\" TEXT,"
-        " \"9\" TEXT, \"10\" TEXT, \"11\" TEXT, \"12\" TEXT, \"13\" TEXT, \"14\" TEXT, \"15\" TEXT);\n"
-        "INSERT INTO \"4711Sorelin\" (\"1\", \"2\", \"3\") VALUES ('Version', '3.0', ''),"
-        " ('NameDE', 'Eigenbau 4711', ''), ('StartBlock', '250', ''), ('Zehntel', '0', '10');\n"
-        "INSERT INTO \"4711Sorelin\" VALUES"
-        " ('129DE', '1000 V', '', '1', '2', '', 'R', 'MOhm', 'Riso', '', '', ''),"
-        " ('150DE', '', '', '1', '1', '', 'Ohm', 'Ohm', 'LOW', 'Zehntel', '', '1');\n");
-    sqlite3.closeWriteChannel();
-    ASSERT_TRUE(sqlite3.waitForFinished(5000));
-    ASSERT_EQ(sqlite3.exitCode(), 0) << sqlite3.readAllStandardError().toStdString();
-
-    test::Simulator sim({"--type", "102", "--records", "2", "--instrument", "4711", "--db", m_dbPfad,
-                         "--baud", "0", "--link", pfad("port")});
-    ASSERT_FALSE(sim.gerät().isEmpty()) << sim.prozess().readAllStandardError().toStdString();
-    modul().portPfad = pfad("port");
-    tasteImDialog([&sim] { sim.tasteDrücken(); });
-
-    m_komponente->DatenEmpfangen();
-
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_EQ(wert("SELECT PrüfgerätName FROM 0100_EinleseGeräteDaten"), "Eigenbau 4711");
-    EXPECT_EQ(wert("SELECT Group_Concat(StromkreisNr, ' ') FROM 0100_EinleseDaten"), "0001 0002");
-    const QMap<QString, QString> werte = werteDesKreises("0002");
-    EXPECT_EQ(werte.value("Riso R V"), "1000");
-    EXPECT_TRUE(werte.contains("Riso R MOhm") && werte.contains("LOW Ohm"))
-        << werte.keys().join(", ").toStdString();
 }
 
 } // namespace

@@ -36,31 +36,7 @@ protected:
         Testumgebung::TearDown();
     }
 
-    // Does what the user does once the wait dialog shows.
-    void imDialog(const std::function<void(Form2&)>& aktion) {
-        m_ui.beiDialog = [this, aktion](DialogController& d) {
-            QPointer<Form2> form = qobject_cast<Form2*>(&d);
-            ASSERT_TRUE(form);
-            aktion(*form);
-            bewachen(*form);
-        };
-    }
     QStringList sicherungen() const { return QDir(pfad("sicherung")).entryList(QDir::Files); }
-
-    // The 37xx instrument of the code in the simulator on a pseudo-terminal, in place of the
-    // in-memory line.
-    std::unique_ptr<test::Simulator> zemakEinstecken(int code, const QStringList& argumente) {
-        auto sim = std::make_unique<test::Simulator>(
-            argumente + QStringList{"--type", QString::number(code), "--link", pfad("port")});
-        modul().commPortFabrik = nullptr;
-        modul().portPfad = pfad("port");
-        m_komponente->setPrüfgeräteTypID(code);
-        m_ui.beiDialog = [this](DialogController& d) {
-            if (auto* form = qobject_cast<frmZEMAK*>(&d))
-                bewachen(*form, 8000);
-        };
-        return sim;
-    }
 
     std::unique_ptr<vemo0100Modul15a> m_komponente;
     std::unique_ptr<SpeicherCommPort> m_leitung;
@@ -70,7 +46,10 @@ TEST_F(TransferTest, AReceivedDumpIsParsedAndCopied) {
     const QByteArray dump = test::inhalt(test::quelle("samples/corvex-verteilung.ser"));
     sim::MultitesterGerät gerät(dump, {0, 60});
     sim::PortLeitung leitung(*m_leitung, gerät);
-    imDialog([&gerät](Form2& form) { QTimer::singleShot(100, &form, [&gerät] { gerät.tasteGedrückt(); }); });
+    m_ui.beiDialog = [this, &gerät](DialogController& d) {
+        QTimer::singleShot(100, &d, [&gerät] { gerät.tasteGedrückt(); });
+        bewachen(*qobject_cast<Form2*>(&d));
+    };
 
     m_komponente->DatenEmpfangen();
 
@@ -85,26 +64,13 @@ TEST_F(TransferTest, AReceivedDumpIsParsedAndCopied) {
     EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000001");
 }
 
-TEST_F(TransferTest, AnAbortDuringReceptionKeepsWhatCameAndParsesNothing) {
-    sim::MultitesterGerät gerät(test::inhalt(test::quelle("samples/corvex-verteilung.ser")), {2400, 60});
-    sim::PortLeitung leitung(*m_leitung, gerät);
-    imDialog([&gerät](Form2& form) {
-        QTimer::singleShot(100, &form, [&gerät] { gerät.tasteGedrückt(); });
-        QTimer::singleShot(900, &form, [&form] { form.abbrechen(); });
-    });
-
-    m_komponente->DatenEmpfangen();
-
-    EXPECT_EQ(m_ui.texte(), QStringList{"Datenübertragung abgebrochen"});
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
-    EXPECT_TRUE(sicherungen().isEmpty());
-    EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "");
-    EXPECT_TRUE(test::inhalt(arbeitsdatei(datei::Ruvo)).startsWith("RUVO GmbH"));
-}
-
 TEST_F(TransferTest, AnEmpty37xxMemoryEndsTheTransferWithTwoMessages) {
-    const auto sim = zemakEinstecken(103, {"--records", "0"});
+    // The 37xx instrument in the simulator on a pseudo-terminal, in place of the in-memory line.
+    test::Simulator sim({"--type", "103", "--records", "0", "--link", pfad("port")});
+    modul().commPortFabrik = nullptr;
+    modul().portPfad = pfad("port");
+    m_komponente->setPrüfgeräteTypID(103);
+    m_ui.beiDialog = [this](DialogController& d) { bewachen(*qobject_cast<frmZEMAK*>(&d), 8000); };
     m_komponente->DatenEmpfangen();
 
     EXPECT_EQ(m_ui.texte(), (QStringList{"keine Daten vorhanden !", "Datenübertragung abgebrochen"}));

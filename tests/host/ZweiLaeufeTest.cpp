@@ -2,7 +2,6 @@
 #include "core/Geraetetypen.h"
 #include "host/Dateinummern.h"
 #include "host/Modul15a.h"
-#include "store/Recordset.h"
 #include "support/Hilfsprozess.h"
 #include "support/Testumgebung.h"
 
@@ -12,7 +11,6 @@
 #include <QProcess>
 #include <QTextStream>
 #include <cstdio>
-#include <map>
 
 using namespace vemo;
 
@@ -100,15 +98,11 @@ protected:
             ASSERT_TRUE(prozess.waitForFinished(60000));
     }
 
-    // The read-in rows by the serial number of their instrument.
-    std::map<QString, long> zeilenJeGerät() const {
-        Recordset rs = db().OpenRecordset("SELECT g.Seriennummer, Count(*) FROM 0100_EinleseDaten AS d INNER "
-                                          "JOIN 0100_EinleseGeräteDaten AS g "
-                                          "ON d.GeräteID = g.GeräteID GROUP BY g.Seriennummer");
-        std::map<QString, long> zeilen;
-        for (; !rs.Eof(); rs.MoveNext())
-            zeilen[rs.Text("Seriennummer")] = rs.Field(1).toInt();
-        return zeilen;
+    // The read-in rows by the serial number of their instrument, "serial|rows".
+    QStringList zeilenJeGerät() const {
+        return zeilen(
+            "SELECT g.Seriennummer, Count(*) FROM 0100_EinleseDaten AS d INNER JOIN "
+            "0100_EinleseGeräteDaten AS g ON d.GeräteID = g.GeräteID GROUP BY g.Seriennummer ORDER BY 1");
     }
     void einlesedatenLeeren() const {
         sql("DELETE FROM \"0100_EinleseMessDaten\"; DELETE FROM \"0100_EinleseDaten\"; "
@@ -123,21 +117,23 @@ TEST_F(ZweiLaeufeTest, TwoReadInsOnOneFolderEachStoreTheirOwnDumpOrNothing) {
     const QString dumps[2] = {test::quelle("samples/corvex-verteilung.ser"),
                               test::quelle("samples/zemak-3710b.ser")};
     vemo0100Modul15a k(m_ui, m_settings);
-    std::pair<QString, long> allein[2];
+    QStringList allein[2]; // serial and rows of a dump read alone
     for (int i = 0; i < 2; ++i) {
         k.EinlesenAusDateiName(dumps[i]);
-        ASSERT_EQ(zeilenJeGerät().size(), 1u) << m_ui.texte().join(" | ").toStdString();
-        allein[i] = *zeilenJeGerät().begin();
+        ASSERT_EQ(zeilenJeGerät().size(), 1) << m_ui.texte().join(" | ").toStdString();
+        allein[i] = zeilenJeGerät()[0].split('|');
         einlesedatenLeeren();
     }
     QProcess p[2];
     zugleich(p, "datei-einlesen",
              {{m_dbPfad, pfad("sicherung"), dumps[0], "40"}, {m_dbPfad, pfad("sicherung"), dumps[1], "40"}});
-    std::map<QString, long> erwartet;
+    QStringList erwartet;
     for (int i = 0; i < 2; ++i) {
         ASSERT_EQ(p[i].exitCode(), 0) << p[i].readAllStandardError().constData();
-        erwartet[allein[i].first] = allein[i].second * p[i].readAllStandardOutput().trimmed().toInt();
+        const int gespeichert = p[i].readAllStandardOutput().trimmed().toInt();
+        erwartet << allein[i][0] + "|" + QString::number(allein[i][1].toInt() * gespeichert);
     }
+    erwartet.sort();
     EXPECT_EQ(zeilenJeGerät(), erwartet);
 }
 

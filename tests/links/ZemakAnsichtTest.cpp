@@ -59,31 +59,22 @@ TEST_F(ZemakAnsichtTest, FensterZeigtDenFortschrittUndDerKnopfBrichtAb) {
     // The instrument pauses after a third of its reply, so that the window is seen mid-transfer.
     sim::ZemakGerät gerät(sim::ZemakSpeicher::erzeugen(v, 40), {{9600, 0}, {0, -1, 700, 5000}});
     sim::PortLeitung leitung(*instrument, gerät);
-    QString titel, zustand, hinweis, prozent;
+    QString zustand;
     int wert = 0, max = 0;
     sobaldFenster([](QDialog& f) { return !f.findChild<QLabel*>("labProzent")->text().isEmpty(); },
                   [&](QDialog& f) {
                       QTest::qWait(2 * frmZEMAK::Taktzeit); // well into the pause
-                      titel = f.windowTitle();
                       zustand = f.findChild<QLabel*>("LabGerätezustand")->text();
-                      hinweis = f.findChild<QLabel*>("LabHinweis")->text();
-                      prozent = f.findChild<QLabel*>("labProzent")->text();
                       wert = f.findChild<QProgressBar*>("Bar1")->value();
                       max = f.findChild<QProgressBar*>("Bar1")->maximum();
-                      auto* abbrechen = f.findChild<QPushButton*>("ComAbbruch");
-                      if (const QByteArray ziel = qgetenv("VEMO_ZEMAK_BILD"); !ziel.isEmpty())
-                          f.grab().save(QString::fromLocal8Bit(ziel));
-                      QTest::mouseClick(abbrechen, Qt::LeftButton);
+                      QTest::mouseClick(f.findChild<QPushButton*>("ComAbbruch"), Qt::LeftButton);
                   });
 
     zemakÜbertragen(v);
 
-    EXPECT_EQ(titel, "vemotrix professional - Serielle Datenübertragung");
     EXPECT_EQ(zustand, "ZEMAK 3720B V1.40 gefunden");
-    EXPECT_EQ(hinweis, "40 Messungen werden übertragen. Bitte warten!");
     EXPECT_GT(wert, 0);
     EXPECT_LT(wert, max);
-    EXPECT_EQ(prozent, " " + QString::number(std::lround(100.0 * wert / max)) + "%");
     EXPECT_EQ(modul().Abbruchmerker, 1);
     EXPECT_EQ(fenster(), nullptr);
 }

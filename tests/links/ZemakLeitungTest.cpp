@@ -151,19 +151,5 @@ TEST_F(ZemakLeitungTest, FuenfZeichenZuKurzGiltSechsWirdWiederholtFuenfMalBricht
     }
 }
 
-TEST_F(ZemakLeitungTest, EinePauseMittenInDerAntwortSchadetNicht) {
-    const auto sim = simulator(107, {"--records", "4", "--silent-after", "100", "--silence", "800"});
-    QString prozentInDerPause;
-    übertragen(selektor::Zemak3740, [&](frmZEMAK& form) {
-        QObject::connect(&form, &frmZEMAK::aktualisiert, &form, [&] {
-            if (prozentInDerPause.isEmpty() && !form.prozent().isEmpty())
-                prozentInDerPause = form.prozent();
-        });
-    });
-    EXPECT_EQ(modul().Abbruchmerker, 0);
-    EXPECT_NE(prozentInDerPause, " 100%");
-    EXPECT_EQ(zeilen(ruvo()).size(), 3 + 1 + 4 + 1);
-}
-
 } // namespace
 } // namespace vemo::test

@@ -1,8 +1,6 @@
-#include "support/Dateien.h"
 #include "support/Fehlernummer.h"
 #include "support/Testumgebung.h"
 
-#include "core/Arbeitsdateien.h"
 #include "links/ZemakSpeichern.h"
 
 #include <QDir>
@@ -15,21 +13,6 @@ using ZemakSpeichernTest = Testumgebung;
 // Two records of nine fields each, the last without its closing comma.
 const QByteArray Satz1 = "01,02,0000,08F2,01,01F4,01,0000,2DCB4A80,";
 const QByteArray Satz2 = "01,03,0000,0219,01,0201,00,0C00,2DCB4ADA";
-
-TEST_F(ZemakSpeichernTest, AntwortstromWirdZeilenweiseMitEinerZeileJeDatensatz) {
-    schreiben(pfad("RUVO.SER"), QByteArray(500, 'x'));
-
-    const QByteArray empfangen = "ZEMAK 3710,V2.14,00471102\rXG,631152001\r0\rQD 2,0002," + Satz1 + Satz2 +
-                                 "\r7F\rnach dem letzten CR";
-    SaveZEMAKMessungen(empfangen, 9);
-
-    EXPECT_EQ(inhalt(arbeitsdatei(datei::Ruvo)),
-              "ZEMAK 3710,V2.14,00471102\r\nXG,631152001\r\n0\r\nQD 2,0002,\r\n" + Satz1 + "\r\n" + Satz2 +
-                  "\r\n7F\r\n")
-        << "the old content is replaced, text behind the last CR is dropped";
-    EXPECT_EQ(QDir(m_dir.path()).entryList({"*.ser"}, QDir::Files, QDir::IgnoreCase), QStringList{"RUVO.SER"})
-        << "the file found is written, whatever its case";
-}
 
 TEST_F(ZemakSpeichernTest, DerKopfEndetHinterDemZaehlerDerRestBleibtEineZeile) {
     // The 3740's count has eight digits; a memory without records leaves an empty line.

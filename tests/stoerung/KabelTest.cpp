@@ -1,7 +1,7 @@
-// The cable pulled from the instrument at each phase of each protocol, on the command line as the
-// user runs it: the simulator process killed. No family gives up on its own there; the reception
-// waits, Ctrl-C (the abort button) ends it at once, and the working files are what the family
-// leaves after an abort.
+// The cable pulled from the instrument in the middle of each family's transfer, on the command line
+// as the user runs it: the simulator process killed. No family gives up on its own there; the
+// reception waits, Ctrl-C (the abort button) ends it at once, and the working files are what the
+// family leaves after an abort.
 #include "CorvexSpeicher.h"
 #include "support/Dateien.h"
 #include "support/Kommandozeile.h"
@@ -20,22 +20,13 @@ namespace {
 
 const QByteArray LetzterLauf = "der letzte Lauf\r\n";
 
-// What an aborted reception leaves in its working file.
-enum class Datei {
-    Unberührt, // the file of the last run
-    Leer,      // truncated when the wait began
-    Anfang,    // the whole lines that came before the cable went: the start of the printout
-};
-
 struct Phase {
     const char* name;
     int typ;
     QStringList simulator; // beyond --type and --link
-    bool tasteDrücken;     // the instrument's send key, once its dialog waits for it
     QString bis;           // the console line after which the cable goes
     int danach;            // ms the line runs on after that line
     QString arbeitsdatei;
-    Datei datei;
 };
 
 // The phase by its name in the test's output, not as the bytes of the struct.
@@ -43,87 +34,26 @@ void PrintTo(const Phase& p, std::ostream* aus) {
     *aus << p.typ << " " << p.name;
 }
 
-// A 37xx instrument answers only to its own model's name; a 3740 on the line keeps a search for
-// another model searching.
-Phase suche(int typ) {
-    return {"Suche",
-            typ,
-            {"--type", typ == 106 ? "105" : "106"},
-            false,
-            "Alle Messleitungen",
-            0,
-            "Ruvo.ser",
-            Datei::Unberührt};
-}
-Phase sammeln(int typ) {
-    return {"Sammeln",
-            typ,
-            {"--type", QString::number(typ), "--records", "40", "--silent-after", "300"},
-            false,
-            "werden übertragen",
-            0,
-            "Ruvo.ser",
-            Datei::Unberührt};
+// The Multitester prints on its send key: the key is pressed once its dialog waits, and its file
+// keeps the whole lines that came before the cable went. The others leave the file of the last run.
+bool druckt(const Phase& p) {
+    return p.typ == 100;
 }
 
+// One phase a family, where the links' own tests do not abort it: the Multitester's print, the
+// Kontalex blocks, the wait for the Sorelin's start mark, the collection of a 37xx memory.
 const Phase Phasen[] = {
-    {"Warten auf die Taste",
-     100,
-     {"--type", "100", "--records", "30"},
-     false,
-     "Serielle Datenübertragung",
-     0,
-     "Ruvo.ser",
-     Datei::Leer},
-    {"Ausdruck",
-     100,
-     {"--type", "100", "--records", "30", "--baud", "2400"},
-     true,
-     "Datenübertragung läuft",
-     500,
-     "Ruvo.ser",
-     Datei::Anfang},
-    // A printing instrument never answers the question whether it is ready.
-    {"Warten auf Bereitschaft",
-     101,
-     {"--type", "100", "--records", "3"},
-     false,
-     "Serielle Datenübertragung",
-     0,
-     "RS232.TXT",
-     Datei::Unberührt},
+    {"Ausdruck", 100, {"--records", "30", "--baud", "2400"}, "Datenübertragung läuft", 500, "Ruvo.ser"},
     // Once the answer to the start of the memory has come: a cut answer is a refusal, after which
     // the family ends the session by itself.
     {"Blöcke",
      101,
-     {"--type", "101", "--model", "KONTALEX", "--records", "200", "--baud", "2400"},
-     false,
+     {"--model", "KONTALEX", "--records", "200", "--baud", "2400"},
      "Datenübertragung läuft",
      1000,
-     "RS232.TXT",
-     Datei::Unberührt},
-    {"Warten auf die Startmarke",
-     102,
-     {"--type", "102", "--records", "40"},
-     false,
-     "Senden-Taste",
-     0,
-     "Rs232.sep",
-     Datei::Unberührt},
-    {"Daten",
-     102,
-     {"--type", "102", "--records", "40", "--baud", "2400"},
-     true,
-     "Datenübertragung läuft",
-     0,
-     "Rs232.sep",
-     Datei::Unberührt},
-    // The 37xx models share one dialog: a plain search, the Quentavoir's search under its maker's
-    // name, and the collection of a fixed and of a long count.
-    suche(104),
-    suche(106),
-    sammeln(103),
-    sammeln(107),
+     "RS232.TXT"},
+    {"Warten auf die Startmarke", 102, {"--records", "40"}, "Senden-Taste", 0, "Rs232.sep"},
+    {"Sammeln", 103, {"--records", "40", "--silent-after", "300"}, "werden übertragen", 0, "Ruvo.ser"},
 };
 
 class KabelTest : public test::Testumgebung, public ::testing::WithParamInterface<Phase> {
@@ -150,7 +80,8 @@ protected:
 TEST_P(KabelTest, DieLeitungWartetUndDerAbbruchBeendetSie) {
     const Phase& phase = GetParam();
     test::schreiben(pfad("cli/" + phase.arbeitsdatei), LetzterLauf);
-    test::Simulator sim(phase.simulator + QStringList{"--link", pfad("port")});
+    test::Simulator sim(phase.simulator +
+                        QStringList{"--type", QString::number(phase.typ), "--link", pfad("port")});
     ASSERT_FALSE(sim.gerät().isEmpty()) << sim.prozess().readAllStandardError().toStdString();
 
     QProcess p;
@@ -158,8 +89,8 @@ TEST_P(KabelTest, DieLeitungWartetUndDerAbbruchBeendetSie) {
             {"--db", pfad("cli/vemotrix.db"), "--settings", pfad("cli/settings.ini"), "--port", pfad("port"),
              "--type", QString::number(phase.typ), "receive"});
     ASSERT_TRUE(p.waitForStarted(5000));
-    QString ausgabe = bisZurZeile(p, phase.tasteDrücken ? QString("Serielle Datenübertragung") : phase.bis);
-    if (phase.tasteDrücken) {
+    QString ausgabe = bisZurZeile(p, druckt(phase) ? QString("Serielle Datenübertragung") : phase.bis);
+    if (druckt(phase)) {
         // The dialog throws away what the line holds when it opens: the key comes after that.
         p.waitForFinished(500);
         sim.tasteDrücken();
@@ -182,17 +113,11 @@ TEST_P(KabelTest, DieLeitungWartetUndDerAbbruchBeendetSie) {
     EXPECT_EQ(p.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(p.exitCode(), 1) << ausgabe.toStdString();
     const QByteArray datei = test::inhalt(pfad("cli/" + phase.arbeitsdatei));
-    switch (phase.datei) {
-    case Datei::Unberührt:
-        EXPECT_EQ(datei, LetzterLauf);
-        break;
-    case Datei::Leer:
-        EXPECT_EQ(datei, "");
-        break;
-    case Datei::Anfang:
+    if (druckt(phase)) {
         EXPECT_TRUE(sim::corvexSpeicher(30).startsWith(datei));
         EXPECT_TRUE(ausgabe.endsWith("Datenübertragung abgebrochen\n")) << ausgabe.toStdString();
-        break;
+    } else {
+        EXPECT_EQ(datei, LetzterLauf);
     }
     // Nothing of an aborted reception is read in.
     const Datenbank cli = Datenbank::OpenDatabase(pfad("cli/vemotrix.db"));
