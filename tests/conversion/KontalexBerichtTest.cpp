@@ -58,49 +58,6 @@ TEST_F(KontalexBerichtTest, FesteBreiteKenntNurFuenfzehnZeichen) {
     EXPECT_EQ(FesteBreite("x", 20), "x" + QString(15, ' ')) << "no more blanks than the ruler has";
 }
 
-// The head of the printed form, then each block in the print block of its function: the labels of
-// the block where it has them, the mode and name of the value where it has none, values through
-// the value test. A function the report doesn't know is left out.
-TEST_F(KontalexBerichtTest, BerichtMitKopfUndDruckbloecken) {
-    satzdatei(m_gerät + kopf(2, 3) + wert("R ISO", "M", "R", "245", "MOhm") +
-              wert("R ISO", "E", "Un", "500", "V") + wert("R ISO", "G", "R", "1", "MOhm") + kopf(2, 4) +
-              wert("UNBEKANNT", "M", "X", "1", "V") + kopf(2, 5) +
-              wert("R +/-200mA", "M", "R+", "0.10", "Ohm") + wert(" TEST", "M", "U", "12.5", "kOhm") +
-              marke(kontalexsatz::Endemarke));
-
-    EXPECT_EQ(bericht(), "00000007");
-
-    const QStringList erwartet{
-        "OMNIVAR                 ",
-        "------------------------",
-        "KONTALEXX        No. 11840217",
-        "",
-        " ",
-        QString(46, '*'),
-        "S: 002  P: 003 -- 10:05  /  18.03.2024",
-        " Riso  MOhm  ",
-        " Riso        245 MOhm   ",
-        " Einst. Un = 500 V      ",
-        "...GW:       1 MOhm     ",
-        " ",
-        QString(46, '*'),
-        "S: 002  P: 005 -- 10:05  /  18.03.2024",
-        " LOW Ohm    =",
-        "=R+200mA.....0.10 Ohm   ",
-        // A value in kOhm is scaled by 1000 by the value test, and keeps its unit.
-        " Messw. U =  12500 kOhm ",
-        " _______________________",
-        "",
-    };
-    EXPECT_EQ(zeilen("00000007.sep"), erwartet);
-    EXPECT_EQ(zeilen("00000007.txt"), erwartet);
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-
-    bericht();
-    EXPECT_EQ(zeilen("00000007.sep"), erwartet) << "the report is written anew";
-    EXPECT_EQ(zeilen("00000007.txt"), erwartet + erwartet) << "its copy is appended to";
-}
-
 TEST_F(KontalexBerichtTest, NurDieEndzeileGibtDenKopf) {
     satzdatei(marke(kontalexsatz::Endemarke));
     EXPECT_EQ(bericht("00000001"), "00000001");

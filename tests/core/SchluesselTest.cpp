@@ -62,43 +62,4 @@ TEST_F(SchluesselTest, ReportNumbersCountOnAndSeeThoseOfAnotherWriter) {
     EXPECT_EQ(NächsteProtokollNr(), "123456790");
 }
 
-TEST_F(SchluesselTest, NewRowsGetTheirDefaultsAndEquipment) {
-    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001');");
-    Recordset anlage = db().OpenRecordset("0100_Anlage");
-    anlage.AddNew();
-    anlage.setField("AnlageID", NeueID("", anlage.Name()));
-    NeueZeileVorbelegen("Anlage", anlage, 1);
-    anlage.Update();
-    anlage.setBookmark(anlage.LastModified());
-    EXPECT_EQ(anlage.Text("Code") + "|" + anlage.Text("Name") + "|" + anlage.Text("Intervall"),
-              "002|xxxxx|48");
-    EXPECT_EQ(anlage.Field("NächstePrüfung").toDate(), QDate::currentDate());
-
-    Recordset prüfung = db().OpenRecordset("0100_Prüfung");
-    prüfung.AddNew();
-    prüfung.setField("PrüfungID", 77);
-    NeueZeileVorbelegen("Prüfung", prüfung, anlage.Field("AnlageID"));
-    prüfung.Update();
-    prüfung.setBookmark(prüfung.LastModified());
-    EXPECT_EQ(QString("%1|%2|%3|%4")
-                  .arg(prüfung.Text("typ"), prüfung.Text("ProtokollNr"))
-                  .arg(prüfung.Field("Grund1").toInt())
-                  .arg(prüfung.Field("Prüfgerät4ID").toInt()),
-              "DACH2010|00000001|1|0");
-
-    Recordset verteiler = db().OpenRecordset("0100_Verteiler");
-    verteiler.AddNew();
-    verteiler.setField("VerteilerID", 5);
-    verteiler.setField("PrüfungID", 77);
-    NeueZeileVorbelegen("Verteiler", verteiler, 0); // a parent of 0 leaves the row's own key
-    verteiler.Update();
-    EXPECT_EQ(zeile("SELECT Code, PrüfungID FROM 0100_Verteiler WHERE VerteilerID = 5"), "001|77");
-
-    // The equipment table of each language is the take-over's; a language without one gives none.
-    modul().sprachen.setSprache("Klingonisch");
-    BetriebsmittelAnlegen(78);
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_Betriebsmittel WHERE PrüfungID = 78"), "0");
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-}
-
 } // namespace

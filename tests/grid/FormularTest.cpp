@@ -23,30 +23,6 @@ protected:
     }
 };
 
-TEST_F(FormularMitZeilen, DeletingAsksAndRemovesTheSelectedRows) {
-    auto f = formular();
-    EXPECT_FALSE(f->schaltflächen().löschen); // cell (0, 0): the header row alone can't be deleted
-    f->gridAuswahl({3, 1, 2, 1});
-    m_ui.antworten = {antwort::Nein};
-    f->löschenKlick();
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 4);
-    ASSERT_EQ(m_ui.texte(), QStringList{xText("Sicher Löschen")});
-    EXPECT_EQ(m_ui.meldungen[0].titel, modul().anwendungstitel + " - " + xText("Löschen von Datensatz"));
-    EXPECT_EQ(m_ui.meldungen[0].stil.knöpfe, MsgKnöpfe::JaNein);
-    EXPECT_EQ(m_ui.meldungen[0].stil.standardKnopf, 2);
-
-    m_ui.antworten = {antwort::Ja};
-    f->löschenKlick();
-    EXPECT_EQ(wert("SELECT Group_Concat(MessungID) FROM (SELECT MessungID FROM 0100_EinleseDaten ORDER BY "
-                   "MessungID)"),
-              "1,4");
-    EXPECT_EQ(anzahlen("0100_EinleseMessDaten|0100_EinleseGeräteDaten"), "0|2");
-    EXPECT_EQ(f->grid().Rows(), 3);
-    EXPECT_EQ(text(*f, 2, 0) + " " + text(*f, 2, 2), "2.1 4");
-    EXPECT_FALSE(f->schaltflächen().löschen);
-    EXPECT_EQ(m_ui.sanduhrTiefe, 0);
-}
-
 // The right button keeps a selection it falls inside and offers the assignment on a data cell; the
 // window's test clicks outside the selection, on the moment column.
 TEST_F(FormularMitZeilen, TheRightButtonKeepsTheSelectionItFallsIn) {
@@ -58,32 +34,6 @@ TEST_F(FormularMitZeilen, TheRightButtonKeepsTheSelectionItFallsIn) {
     EXPECT_EQ(f->grid().auswahl.RowSel, 2);
     EXPECT_TRUE(f->schaltflächen().zuordnung);
     EXPECT_EQ(popup.count(), 1);
-}
-
-TEST_F(FormularMitZeilen, TheWaysOutSetTheSignalsToTheHost) {
-    modul().EinlesedatenID = 5;
-    modul().EinlesedatenIDRow = 5;
-    auto f = formular();
-    f->geöffnet();
-    f->schließenKlick();
-    EXPECT_FALSE(f->istOffen());
-    EXPECT_EQ(QString::number(modul().EinlesedatenID.toInt()) + " " +
-                  QString::number(modul().EinlesedatenIDRow.toInt()),
-              "0 0");
-
-    f = formular();
-    f->geöffnet();
-    f->formTaste(13);
-    EXPECT_TRUE(f->istOffen());
-    f->formTaste(27);
-    EXPECT_FALSE(f->istOffen());
-
-    f = formular();
-    f->geöffnet();
-    f->editResultsKlick();
-    EXPECT_FALSE(f->istOffen());
-    EXPECT_EQ(modul().EinlesedatenIDRow.toInt(), 1);
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
 }
 
 TEST_F(FormularTest, EditResultsOnAnEmptyTableSaysSoAndStays) {

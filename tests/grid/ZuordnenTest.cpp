@@ -41,43 +41,6 @@ protected:
     }
 };
 
-TEST_F(ZuordnenTest, TheCustomersComeByNameAndPlantAndInspectionWaitForOne) {
-    neuesteZeilen({"001"});
-    frmZuordnen f;
-    EXPECT_EQ(texte(f.comboKunde()), (QStringList{"Bäckerei Sommer", "Fitzroy Building",
-                                                  "Praxis Dr. Feldmann", "Wohnbau Nordhang"}));
-    EXPECT_FALSE(f.comboAnlage().aktiv);
-    EXPECT_FALSE(f.comboPrüfung().aktiv);
-
-    // Nothing chosen: Weiter changes no row and unloads the form.
-    f.geöffnet();
-    f.weiterKlick();
-    EXPECT_FALSE(f.istOffen());
-    EXPECT_EQ(schlüssel(10), "0|0|0|0|0");
-}
-
-TEST_F(ZuordnenTest, AKnownPlantNumberIsPreselectedWithItsInspections) {
-    neuesteZeilen({"001", "001"});
-    frmZuordnen f;
-    f.kundeKlick(kundeIndex(f, 1));
-    ASSERT_TRUE(f.comboAnlage().aktiv);
-    EXPECT_EQ(texte(f.comboAnlage()), (QStringList{"001 A1 Backstube", "002 A2 Verkaufsraum"}));
-    EXPECT_EQ(f.comboAnlage().listIndex, 0);
-    EXPECT_TRUE(f.comboPrüfung().aktiv);
-    ASSERT_EQ(f.comboPrüfung().einträge.size(), 1);
-    EXPECT_TRUE(f.comboPrüfung().einträge[0].text.endsWith(" 00000001"));
-    EXPECT_FALSE(f.comboPrüfung().gewählt());
-
-    f.prüfungKlick(0);
-    f.weiterKlick();
-    EXPECT_EQ(schlüssel(10) + " " + schlüssel(11), "1|1|1|0|0 1|1|1|0|0");
-    EXPECT_EQ(schlüssel(1), "0|0|0|0|0"); // the older device's row stays as it is
-
-    // Another plant chosen by hand lists its own inspections: plant 2 has none.
-    f.anlageKlick(1);
-    EXPECT_TRUE(f.comboPrüfung().einträge.isEmpty());
-}
-
 // What the newest device's plant numbers preselect for a customer, as "plant list active, index,
 // [entries], inspection list active", and the keys Weiter writes: two numbers the customer alone,
 // an empty number the first plant without inspection, an unknown number itself first (the take-over

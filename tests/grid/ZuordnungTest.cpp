@@ -29,35 +29,6 @@ int eintrag(const EinleseDatenController& f, const QString& text) {
     return -1;
 }
 
-TEST_F(ZuordnungTest, ACustomerForSeveralRowsClearsTheirLowerKeys) {
-    gerät(1, "0100-Corvex");
-    for (int id = 1; id <= 4; ++id)
-        eingelesen("MessungID=" + QString::number(id) +
-                   ", KundeID=1, AnlageID=1, PrüfungID=1, VerteilerID=1, StromkreisID=1");
-    auto f = formular();
-    f->gridAuswahl({1, 1, 3, 1});
-    doppelklick(*f, 2, 1);
-    ASSERT_TRUE(f->combo().sichtbar);
-    EXPECT_EQ(f->combo().listIndex, eintrag(*f, "Bäckerei Sommer")); // the row's own customer
-
-    // The customers by name, each with its key.
-    QStringList namen;
-    for (const auto& e : f->combo().einträge)
-        namen << e.text + "=" + e.schlüssel.toString();
-    EXPECT_EQ(namen, QStringList({"Bäckerei Sommer=1", "Fitzroy Building=40", "Praxis Dr. Feldmann=3",
-                                  "Wohnbau Nordhang=2"}));
-
-    f->comboKlick(eintrag(*f, "Wohnbau Nordhang"));
-    EXPECT_FALSE(f->combo().sichtbar);
-    for (int id = 1; id <= 3; ++id)
-        EXPECT_EQ(schlüssel(id), "2|0|0|0|0") << id;
-    EXPECT_EQ(schlüssel(4), "1|1|1|1|1");
-    EXPECT_EQ(text(*f, 2, 1), "Wohnbau Nordhang");
-    EXPECT_EQ(zustand(*f, 2, 2), Zellzustand::Offen);
-    EXPECT_EQ(QString("%1-%2").arg(f->grid().auswahl.ersteZeile()).arg(f->grid().auswahl.letzteZeile()),
-              "1-3");
-}
-
 TEST_F(ZuordnungTest, RowsOfAnotherParentArePassedOver) {
     gerät(1, "0100-Corvex");
     eingelesen("MessungID=1, KundeID=1, AnlageID=1");

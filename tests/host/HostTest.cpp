@@ -82,21 +82,6 @@ TEST_F(HostTest, FileNumbersAdvancePastCopiesThatExist) {
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("76 "));
 }
 
-// The host may destroy its window before the component's module state goes: a message shown after
-// the component is gone must not reach a dead Ui.
-TEST_F(HostTest, TheComponentLetsGoOfTheHostsWindowWhenItGoes) {
-    {
-        AufzeichnungsUi fenster;
-        SpeicherSettingsStore einstellungen;
-        vemo0100Modul15a k(fenster, einstellungen);
-        EXPECT_EQ(modul().ui, &fenster);
-    }
-    EXPECT_EQ(modul().ui, nullptr);
-    EXPECT_EQ(modul().settings, nullptr);
-    fehlerZeigen(Fehler(5, "danach"));
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-}
-
 TEST_F(HostTest, PropertiesKeepTheirContract) {
     vemo0100Modul15a k(m_ui, m_settings);
     k.setPrüfgeräteTypID(104);

@@ -64,19 +64,4 @@ TEST_F(TransferTest, AReceivedDumpIsParsedAndCopied) {
     EXPECT_EQ(m_settings.GetSetting("Application", "LastFile"), "LastFile = 00000001");
 }
 
-TEST_F(TransferTest, AnEmpty37xxMemoryEndsTheTransferWithTwoMessages) {
-    // The 37xx instrument in the simulator on a pseudo-terminal, in place of the in-memory line.
-    test::Simulator sim({"--type", "103", "--records", "0", "--link", pfad("port")});
-    modul().commPortFabrik = nullptr;
-    modul().portPfad = pfad("port");
-    m_komponente->setPrüfgeräteTypID(103);
-    m_ui.beiDialog = [this](DialogController& d) { bewachen(*qobject_cast<frmZEMAK*>(&d), 8000); };
-    m_komponente->DatenEmpfangen();
-
-    EXPECT_EQ(m_ui.texte(), (QStringList{"keine Daten vorhanden !", "Datenübertragung abgebrochen"}));
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_TRUE(sicherungen().isEmpty());
-    EXPECT_FALSE(QFileInfo::exists(arbeitsdatei(datei::Ruvo)));
-}
-
 } // namespace

@@ -7,20 +7,6 @@ namespace {
 
 using SprachenTest = Sprachumgebung;
 
-// Endings stay behind the translation and the key compares without regard to case; "..." alone is
-// a text of its own, not an ending; an empty translation shows "xxx", and a known text is never
-// added again.
-TEST_F(SprachenTest, EndungenUndLeereÜbersetzungen) {
-    spracheSql("INSERT INTO Sprache (TextID, \"English (United Kingdom)\") VALUES ('...', 'more'), "
-               "('Ohne', NULL), ('Blank', '   ')");
-    const auto englisch = [this](const QString& t) { return m_sprachen.xText(t); };
-    EXPECT_EQ(test::jeweils(englisch, {"Zustand:", "Identifikation...", "zustand", "", "...", "Ohne",
-                                       "Ohne:", "Blank..."}),
-              "State: | Identification... | State |  | more | xxx | xxx | xxx");
-    EXPECT_EQ(m_sprachen.xText("Zustand", Deutschland), "Zustand");
-    EXPECT_EQ(zeilenMitSchlüssel("") + zeilenMitSchlüssel("Ohne"), 1);
-}
-
 // A new text is learned once, with its version; a text too long is cut and learned anew each time
 // it is asked for, since the full text never finds the cut key; quotes are part of the text.
 TEST_F(SprachenTest, NeueTexteWerdenAufgenommen) {

@@ -75,46 +75,6 @@ TEST_F(DumpEmpfangTest, DreiLeerzeilenInEigenenLesevorgaengenBeenden) {
     EXPECT_FALSE(instrument->CTSHolding()) << "the port is closed";
 }
 
-TEST_F(DumpEmpfangTest, LeerzeilenMitDatenDazwischenOderInEinemStueckBeendenNicht) {
-    auto instrument = speicherleitungEinstecken(0);
-    instrument->setPortOpen(true);
-    // Two empty lines, data, two more, then two in one read where the third would be due, then three
-    // lines of blanks, each in two reads as the lines inside a dump come at the instrument's pace.
-    const QList<QByteArray> stücke{"A\r\n", CRLF, CRLF, "B\r\n", CRLF, CRLF,    "\r\n\r\n", "  ",
-                                   CRLF,    "  ", CRLF, "  ",    CRLF, "C\r\n", "halbe Zei"};
-    QByteArray textZuletzt;
-    bool liefNoch = false;
-    beimDialog(10, [&](Form2& form) {
-        nacheinanderSenden(*instrument, stücke, 20);
-        QTimer::singleShot(20 * int(stücke.size()) + 200, &form, [&] {
-            liefNoch = modul().Empfangsende == 0 && form.istOffen();
-            textZuletzt = form.text().toLatin1();
-            form.enterGedrückt();
-        });
-    });
-
-    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::Weiter);
-    EXPECT_TRUE(liefNoch);
-    // Enter is a success; the half line without its end reaches neither file nor text box.
-    EXPECT_EQ(modul().Abbruchmerker, 0);
-    EXPECT_EQ(ruvo(), "A\r\n\r\n\r\nB\r\n\r\n\r\n\r\n\r\n  \r\n  \r\n  \r\nC\r\n");
-    EXPECT_TRUE(textZuletzt.endsWith("  \r\nC\r\n"));
-}
-
-TEST_F(DumpEmpfangTest, VorDemErstenByteGehtEsStillUndMitLeererDatei) {
-    schreiben(pfad("RUVO.SER"), "der Dump von gestern\r\n");
-    auto instrument = speicherleitungEinstecken();
-    instrument->setPortOpen(true);
-    beimDialog(50, [](Form2& form) { form.abbrechen(); });
-
-    EXPECT_EQ(dumpEmpfangen(), EmpfangsErgebnis::StillVerlassen);
-    EXPECT_EQ(ruvo(), QByteArray());
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_EQ(modul().Empfangsende, 0);
-    EXPECT_TRUE(m_form.isNull());
-}
-
 TEST_F(DumpEmpfangTest, EinFehlenderPortGehtAnDieFalleUndLaesstDenAltenDump) {
     schreiben(pfad("RUVO.SER"), "der Dump von gestern\r\n");
 
@@ -129,32 +89,6 @@ TEST_F(DumpEmpfangTest, EinFehlenderPortGehtAnDieFalleUndLaesstDenAltenDump) {
 
     EXPECT_EQ(ruvo(), "der Dump von gestern\r\n");
     EXPECT_TRUE(m_ui.dialoge.isEmpty());
-}
-
-TEST_F(DumpEmpfangTest, OhneHandshakeNurFuerDasVaritron) {
-    for (const auto& [selektor, erwartet] :
-         {std::pair{QString("Multitester = Deutsch"), Handshake::XonXoff},
-          std::pair{QString("Multitester = 0100-Varitron"), Handshake::Keins}}) {
-        SCOPED_TRACE(selektor.toStdString());
-        modul().Selektor() = selektor;
-        auto instrument = speicherleitungEinstecken();
-        const CommPort* port = nullptr;
-        modul().commPortFabrik = [&port, fabrik = modul().commPortFabrik] {
-            auto p = fabrik();
-            port = p.get();
-            return p;
-        };
-        Handshake gesehen = Handshake::RtsCts;
-        QString settings;
-        beimDialog(10, [&](Form2& form) {
-            gesehen = port->Handshaking();
-            settings = port->Settings();
-            form.abbrechen();
-        });
-        dumpEmpfangen();
-        EXPECT_EQ(gesehen, erwartet);
-        EXPECT_EQ(settings, "2400,N,8,1");
-    }
 }
 
 } // namespace

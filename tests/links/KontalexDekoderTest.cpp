@@ -60,16 +60,6 @@ TEST_F(KontalexDekoderTest, KurzeFelderLoggerUndCodesAusserhalbDerTabelle) {
         << "no group in an end block";
 }
 
-TEST_F(KontalexDekoderTest, GeraeteinfoMitSpracheNurWoDasModellEineNennt) {
-    EXPECT_EQ(geräteinfoLesen(sim::werAntwort("KONTALEX", "11840217")),
-              (QStringList{"KONTALEX", "STD", "2.14", "HW 3", "11840217", "01.2024", "Deutsch"}));
-    for (const QString modell : {"PRAVITONIX", "Georin-Barrier Analyzer"})
-        EXPECT_EQ(geräteinfoLesen(sim::werAntwort(modell, "117")).last(), "No Language");
-    EXPECT_EQ(geräteinfoLesen(QByteArray("a\0b\0  VOLTIRA 9KV  \0 X \0", 24)).mid(0, 3),
-              (QStringList{"VOLTIRA 9KV", "X", ""}))
-        << "name and the next field trimmed, missing fields empty";
-}
-
 // The record file: every line eight values, texts quoted, CR LF; an empty memory is the end line
 // and the word table's message.
 TEST_F(KontalexDekoderTest, SatzdateiUndLeererSpeicher) {

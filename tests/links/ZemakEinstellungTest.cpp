@@ -41,29 +41,6 @@ protected:
     std::unique_ptr<sim::PortLeitung> m_leitung;
 };
 
-// Closing writes the three settings back and never 3720enabled; a digit count the combos do not
-// offer is kept as it stands.
-TEST_F(ZemakEinstellungTest, ClosingWritesTheCodeSplittingAndKeepsACountNotOffered) {
-    InitSchreiben("codeSplitting3720", "1");
-    InitSchreiben("Kundencodestellen3720", "4");
-    InitSchreiben("Verteilercodestellen3720", "3");
-    InitSchreiben("3720enabled", "1");
-    frmSettingZEMAK3710 form(einstellungsvariante(106));
-    form.laden();
-    EXPECT_TRUE(form.codeSplitting());
-    EXPECT_EQ(form.kundenstellenIndex(), -1);
-    EXPECT_EQ(form.verteilerstellenIndex(), 2);
-    EXPECT_TRUE(form.aufteilungSichtbar());
-    form.setCodeSplitting(false);
-    form.setVerteilerstellenIndex(0);
-    form.ComSchließen();
-    EXPECT_EQ(init("codeSplitting3720"), "0");
-    EXPECT_EQ(init("Kundencodestellen3720"), "4");
-    EXPECT_EQ(init("Verteilercodestellen3720"), "1");
-    EXPECT_EQ(init("3720enabled"), "1");
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-}
-
 // The window: the frame shows with 3720enabled, the check box alone enables the combos, and
 // closing the window by its frame is the close button, which writes what the user chose.
 TEST_F(ZemakEinstellungTest, TheWindowGuardsTheCombosAndClosingSavesTheChoice) {
@@ -97,21 +74,6 @@ TEST_F(ZemakEinstellungTest, TheWindowGuardsTheCombosAndClosingSavesTheChoice) {
     EXPECT_EQ(init("codeSplitting3720"), "1");
     EXPECT_EQ(init("Kundencodestellen3720"), "3");
     EXPECT_EQ(init("Verteilercodestellen3720"), "2");
-}
-
-// Type 106 looks for its maker's name; every other type, or none, for ZEMAK.
-TEST_F(ZemakEinstellungTest, TheQuentavoirDialogDoesNotTakeAZemak) {
-    for (const QVariant& typ : {QVariant(103), QVariant(107), QVariant("x"), QVariant()})
-        EXPECT_EQ(einstellungsvariante(typ).name, "frmSettingZEMAK3710") << typ.toString().toStdString();
-    EXPECT_EQ(einstellungsvariante(106).name, "frmSettingQuentavoir");
-    einstecken();
-    frmSettingZEMAK3710 form(einstellungsvariante(106));
-    ASSERT_TRUE(form.verbinden());
-    form.Timer1();
-    EXPECT_FALSE(form.verbunden());
-    EXPECT_EQ(form.gerät(), "(keine Verbindung)");
-    EXPECT_EQ(form.serienNr(), "");
-    EXPECT_EQ(form.kennungstext(), frmSettingZEMAK3710::Vorgabekennung);
 }
 
 } // namespace

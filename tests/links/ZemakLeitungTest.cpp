@@ -88,37 +88,6 @@ TEST_F(ZemakLeitungTest, JedeVarianteFindetStelltDieUhrUndSpeichertEinenDatensat
     }
 }
 
-TEST_F(ZemakLeitungTest, Ein3710BBleibtFuerDen3710UngefundenUndDerAbbruchLaesstDieDatei) {
-    ruvoVorbelegen();
-    const auto sim = simulator(104, {"--records", "3"});
-    qsizetype meisteAntworten = 0;
-    bool gefunden = true;
-    QString zustand;
-
-    übertragen(selektor::Zemak, [&](frmZEMAK& form) {
-        sobald(
-            form,
-            [&form, &meisteAntworten] {
-                meisteAntworten = std::max(meisteAntworten, form.empfangspuffer().count("ZEMAK 3710B,"));
-                return false;
-            },
-            [] {});
-        QTimer::singleShot(5 * frmZEMAK::Taktzeit, &form, [&] {
-            gefunden = form.gerätGefunden();
-            zustand = form.gerätezustand();
-            form.abbrechen();
-        });
-    });
-
-    EXPECT_FALSE(gefunden);
-    EXPECT_EQ(zustand, "Suche ZEMAK Prüfgerät an COM-Port " + modul().portPfad);
-    EXPECT_EQ(meisteAntworten, 1) << "each ID goes into an emptied buffer";
-    EXPECT_EQ(modul().Abbruchmerker, 1);
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-    EXPECT_EQ(ruvo(), AlteDatei);
-    EXPECT_EQ(anzahl(sim->protokoll(), "clock set"), 0);
-}
-
 TEST_F(ZemakLeitungTest, FuenfZeichenZuKurzGiltSechsWirdWiederholtFuenfMalBrichtAb) {
     const Zemakvariante& v = *zemakVariante(selektor::Zemak3720);
     const QByteArray datensätze = sim::ZemakSpeicher::erzeugen(v, 6).datensätze.join();

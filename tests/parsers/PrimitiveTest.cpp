@@ -105,14 +105,6 @@ TEST_F(Zahlformate, DatesReadAsTheGeneralParserReadsThem) {
     EXPECT_EQ(zahlformat::datum("14.06.2022"), QDate(2022, 6, 14));
 }
 
-TEST_F(Zahlformate, ValuesTakeTheNormalFormOfTheLocale) {
-    zahlformat::setzen(QLocale(QLocale::German, QLocale::Germany));
-    EXPECT_EQ(test::jeweils(WertText, {"0.30", "0,30", "<0.10", "o.r.", "AC 180°", "1.2.3", ""}),
-              "0,3 | 0,3 | <0,1 | o.r. | AC 180° | 1.2.3 | ");
-    zahlformat::setzen(QLocale(QLocale::English, QLocale::UnitedKingdom));
-    EXPECT_EQ(test::jeweils(WertText, {"0,30", "1500"}), "0.3 | 1500");
-}
-
 class EinheitTest : public test::Testumgebung {};
 
 TEST_F(EinheitTest, ConversionByTheFirstLettersOfTheUnits) {

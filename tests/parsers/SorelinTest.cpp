@@ -44,25 +44,6 @@ protected:
     QStringList gelesen() const { return blöcke({"VerteilerNr", "StromkreisNr"}, "/"); }
 };
 
-TEST_F(SorelinTest, EinBildWirdNachDerTreibertabelleGelesen) {
-    modul().PrüfgerätID = 17;
-    lesen(SorelinBild(Kreis1 + Kreis2).vorher(QByteArray("\x00\xFF\xD5\x13", 4)).bytes());
-
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_EQ(modul().Abbruchmerker, 0);
-    EXPECT_EQ(gelesen(),
-              (QStringList{"0001/0001: " + Kreis1Zeilen.join(" | "),
-                           "0001/0002: Riso R V=500 V | Riso R MOhm=>163.83 MOhm | LOW Ohm=>327.67 Ohm"}));
-    EXPECT_EQ(wert("SELECT PrüfgerätName || '/' || Seriennummer FROM 0100_EinleseGeräteDaten"),
-              "SORELIN PM 12/");
-    EXPECT_EQ(wert("SELECT PrüfgerätID FROM 0100_EinleseGeräteDaten"), "17");
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseDaten WHERE GeräteID = (SELECT GeräteID FROM "
-                   "0100_EinleseGeräteDaten) AND AnlageNr = '' AND Datum = '' AND Uhrzeit = ''"),
-              "2");
-    EXPECT_EQ(anzahl("Prüfgerät"), 0) << "the register is not asked for this family";
-    EXPECT_EQ(modul().sorelinSeriennummer, "SL4120001");
-}
-
 TEST_F(SorelinTest, NurEineNeuereFirmwareAlsDerTreiberWirdAbgewiesenEineSeriennummerAusDIstKeine) {
     // The driver of type 4120 knows version 1.4: the bytes 1 and 4. A serial number of D's is none.
     lesen(SorelinBild(Kreis1).firmware(QByteArray("\x01\x04", 2)).seriennummer("DDDDDDDDD").bytes());
@@ -124,33 +105,6 @@ TEST_F(SorelinTest, DerErsteStromkreisGehtNichtInDieLetzteZeileEinesAnderenEinle
     EXPECT_EQ(gelesen(), (QStringList{"0001/0001: LOW Ohm=0.35 Ohm", "0001/0001: LOW Ohm=0.36 Ohm",
                                       "0001/0002: LOW Ohm=0.37 Ohm"}));
     EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), 2);
-}
-
-TEST_F(SorelinTest, DieProbenWerdenAusDerDateiErkanntUndGelesen) {
-    const struct {
-        const char* probe;
-        long zeilen;
-        long werte;
-    } proben[] = {
-        {"sorelin-pm12.ser", 3, 42},
-        {"sorelin-pm20.ser", 3, 36},
-    };
-    modul().BackupVerzeichnis = m_dir.path();
-    for (const auto& p : proben) {
-        SCOPED_TRACE(p.probe);
-        sql("DELETE FROM \"0100_EinleseDaten\";");
-        modul().Selektor() = selektor::Deutsch;
-        m_ui.meldungen.clear();
-        EinlesenAusDateiName(quelle(QString("samples/") + p.probe));
-        EXPECT_EQ(modul().Selektor(), selektor::Sorelin);
-        EXPECT_EQ(m_ui.texte(), QStringList());
-        EXPECT_EQ(anzahl("0100_EinleseDaten"), p.zeilen);
-        EXPECT_EQ(anzahl("0100_EinleseMessDaten"), p.werte);
-        EXPECT_EQ(wert("SELECT Group_Concat(Funktion) FROM 0100_EinleseMessDaten WHERE Funktion NOT IN "
-                       "(SELECT TeilFunktion FROM 0100_TeilFunktion)"),
-                  "")
-            << "the host data knows every function name the driver tables give";
-    }
 }
 
 // A driver table of our own: a selective RCD test with settings 07 (A, x2, 180°), then trip time

@@ -114,36 +114,6 @@ TEST_F(Zemak, EachModelsSampleGivesOneRowPerRecordAndItsInstrument) {
     EXPECT_EQ(m_ui.meldungen.value(0).titel, Standardtitel);
 }
 
-TEST_F(Zemak, ModeBitsOfThe3720AreTestedAsWholeMasksInTheirOrder) {
-    lesen3720({
-        "04B2,0065,0,0011,00,0019,01,1418,0,0,", // trip time with 24: the multiplier row stays unset
-        "04B2,0065,0,0011,00,0019,01,1400,0,0,", // with none of 8 and 16: x1/2
-        "04B2,0066,0,0037,00,003D,00,0401,0,0,", // insulation x And 7 = 1
-        "04B2,0066,0,0037,00,003D,00,0587,0,0,", // ... = 7, and &H180 is caught by 128
-        "04B2,0067,0,0012,00,0010,00,C01,0,0,",  // three digits: "C0" is a voltage, not a loop
-        "04B2,0068,0,0159,00,029A,00,1001,0,0,", // second form without milli
-        "04B2,0068,0,0012,00,0010,00,2400,0,0,", // &H24 is no function: the row stands alone
-        "04B2,0069,0,0012,00,0010,00,0800,0,0",
-    });
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    const QStringList b = blöcke();
-    ASSERT_EQ(b.size(), 8);
-    EXPECT_TRUE(b[0].contains("RCD t, E, mult.:=∅ | RCD t, E, phase:= 0°")) << b[0].toStdString();
-    EXPECT_TRUE(b[1].contains("RCD t, G, Ub=<25 V | RCD t, E, Idn=10 mA | RCD t, E, mult.:=x1/2"));
-    EXPECT_TRUE(b[2].startsWith("1202 0102: m_KTS_INSUPP=55 Mohm")) << b[2].toStdString();
-    EXPECT_TRUE(b[2].endsWith("R ISO, E, Un=50 V"));
-    EXPECT_TRUE(b[3].startsWith("1202 0102: m_KTS_INSUNE=55 Mohm"));
-    EXPECT_TRUE(b[3].endsWith("R ISO, E, Un=100 V")) << b[3].toStdString();
-    EXPECT_EQ(b[4], "1202 0103: Spannung Uac=18 V | m_Bemerkung=Uac:L-PE | Spannung f=16 Hz");
-    EXPECT_EQ(b[5], "1202 0104: Z LOOP, M, Z=345 Ohm | Z LOOP, M, Isc=666 A");
-    EXPECT_EQ(b[6], "1202 0104: ");
-    EXPECT_EQ(b[7], "1202 0105: m_KTS_CONTR=18 Ohm");
-    // The multiplier row of the first record: no value, an empty unit.
-    EXPECT_EQ(wert("SELECT Count(*) FROM 0100_EinleseMessDaten WHERE Funktion = 'RCD t, E, mult.:' AND "
-                   "wert IS NULL AND Einheit = ''"),
-              "1");
-}
-
 TEST_F(Zemak, The3740ComparesItsNibblesUnshifted) {
     const QString satz = "0002,04B2,0065,0,%1,%2,%3,0,0012,0010,0007,0,0,00,%4,00,0,0,0";
     textLesen(selektor::Zemak3740,

@@ -9,37 +9,6 @@ namespace {
 using AnweisungsCacheTest = test::Motorumgebung;
 constexpr int Grenze = detail::Verbindung::AnweisungenImCache;
 
-// A long run prepares a new statement for nearly every row: the cache keeps a bounded number, the
-// least recently used goes, and a statement pushed out while it runs reads on to its end.
-TEST_P(AnweisungsCacheTest, KeepsTheRecentlyUsedAndLetsARunningStatementFinish) {
-    sql("INSERT INTO Kunde (KundeID) VALUES (1), (2), (3);");
-    const auto verbindung = detail::Verbindung::öffnen(m_dbPfad, false);
-    detail::Verbindung& v = *verbindung;
-    detail::Schritt läuft(v.anweisung("SELECT KundeID FROM Kunde ORDER BY KundeID"));
-    ASSERT_TRUE(läuft.weiter());
-    EXPECT_EQ(läuft.wert(0).toInt(), 1);
-
-    const detail::Anweisung oft = v.anweisung("SELECT 'oft'");
-    for (int i = 0; i < 3 * Grenze; ++i) {
-        detail::Schritt s(v.anweisung("SELECT ?1 AS spalte" + QString::number(i)));
-        s.binden(1, i);
-        ASSERT_TRUE(s.weiter());
-        EXPECT_EQ(s.wert(0).toInt(), i);
-        if (i % 10 == 0) {
-            EXPECT_EQ(v.anweisung("SELECT 'oft'"), oft); // used again and again: never the oldest
-        }
-    }
-    EXPECT_EQ(v.anweisungenImCache(), Grenze);
-    v.schemaGeändert();
-    EXPECT_EQ(v.anweisungenImCache(), 0);
-
-    ASSERT_TRUE(läuft.weiter());
-    EXPECT_EQ(läuft.wert(0).toInt(), 2);
-    ASSERT_TRUE(läuft.weiter());
-    EXPECT_EQ(läuft.wert(0).toInt(), 3);
-    EXPECT_FALSE(läuft.weiter());
-}
-
 // A record set whose statement has left the cache requeries and writes as before.
 TEST_P(AnweisungsCacheTest, RecordSetsOutliveTheirStatementsInTheCache) {
     sql("INSERT INTO Kunde (KundeID, Name) VALUES (1, 'A');");

@@ -22,61 +22,6 @@ protected:
     }
 };
 
-TEST(Dialekt, TranslatesNamesStringsAndWrappers) {
-    EXPECT_EQ(übersetzen("SELECT \"it's\" AS [a b] FROM 0100_Messung").sql,
-              "SELECT 'it''s' AS \"a b\" FROM \"0100_Messung\"");
-    EXPECT_EQ(übersetzen("SELECT 'a''b', \"c\"\"d\", '' FROM [x]]").sql,
-              "SELECT 'a''b', 'c\"d', '' FROM \"x\"]");
-    EXPECT_EQ(übersetzen("SELECT 'offen").sql, "SELECT 'offen'");
-    EXPECT_EQ(übersetzen("DELETE * FROM 0100_EinleseGeräteDaten").sql,
-              "DELETE FROM \"0100_EinleseGeräteDaten\"");
-    EXPECT_EQ(übersetzen("(SELECT a FROM t ORDER BY a;)").sql, "SELECT a FROM t ORDER BY a");
-    EXPECT_EQ(übersetzen("SELECT x FROM t WHERE ((t.a) = 1))ORDER BY x;").sql,
-              "SELECT x FROM t WHERE ((t.a) = ?1))ORDER BY x");
-    const Übersetzung p =
-        übersetzen("PARAMETERS paraKundeID Long; SELECT * FROM [0100_Anlage] WHERE KundeID = [paraKundeID]");
-    EXPECT_EQ(p.parameter, QStringList{"paraKundeID"});
-    EXPECT_EQ(p.sql, "SELECT * FROM \"0100_Anlage\" WHERE KundeID = ?1");
-    EXPECT_TRUE(p.einfacheAuswahl);
-    EXPECT_FALSE(übersetzen("SELECT Code FROM t GROUP BY Code").einfacheAuswahl);
-    EXPECT_FALSE(übersetzen("SELECT a.x FROM a LEFT JOIN b ON a.i = b.i").einfacheAuswahl);
-    EXPECT_EQ(übersetzen("SELECT 1.5, 0100 FROM t").sql, "SELECT 1.5, 0100 FROM t");
-}
-
-// The keys and codes spliced into a condition become bound values; literals that name a column or
-// a result column, and statements with placeholders or parameters of their own, stay as written.
-TEST(Dialekt, BindsTheLiteralsOfAConditionOnly) {
-    const Übersetzung z = übersetzen(
-        "SELECT 5 AS fünf, Code FROM t WHERE KundeID = 12 AND (Code ='0,5' OR Wert >= 1.5) AND Nr <> -1 "
-        "AND Name Like 'A*' ORDER BY 1");
-    EXPECT_EQ(z.sql, "SELECT 5 AS fünf, Code FROM t WHERE KundeID = ?1 AND (Code =?2 COLLATE VEMO_NOCASE OR "
-                     "Wert >= ?3) AND Nr "
-                     "<> -1 AND Name Like 'A%' ORDER BY 1");
-    EXPECT_EQ(z.werte, (QVector<QVariant>{qlonglong(12), QString("0,5"), 1.5}));
-    EXPECT_EQ(z.sqlMitRowid.count("?"), 3);
-
-    const Übersetzung u = übersetzen("UPDATE t SET a = 1 WHERE b = 'x'");
-    EXPECT_EQ(u.sql, "UPDATE t SET a = 1 WHERE b = ?1 COLLATE VEMO_NOCASE");
-    EXPECT_EQ(u.werte, QVector<QVariant>{QString("x")});
-    EXPECT_EQ(übersetzen("DELETE * FROM t WHERE a > 2").werte, QVector<QVariant>{qlonglong(2)});
-
-    // A text from outside, quoted as a literal, is one bound value with every character it holds.
-    for (const QString& t : test::Fremdtexte) {
-        const Übersetzung l = übersetzen("SELECT * FROM t WHERE a = " + literal(t) + " AND b = 1");
-        EXPECT_EQ(l.sql, "SELECT * FROM t WHERE a = ?1 COLLATE VEMO_NOCASE AND b = ?2");
-        EXPECT_EQ(l.werte, (QVector<QVariant>{t, qlonglong(1)}));
-    }
-
-    for (const char* bleibt :
-         {"SELECT * FROM t WHERE a = ? AND b = 1", "INSERT INTO t SELECT * FROM u WHERE a = 1",
-          "CREATE INDEX i ON t (a) WHERE a = 1",
-          "PARAMETERS p Long; SELECT * FROM t WHERE a = [p] AND b = 1"}) {
-        const Übersetzung ü = übersetzen(bleibt);
-        EXPECT_TRUE(ü.werte.isEmpty()) << bleibt;
-        EXPECT_TRUE(ü.sql.endsWith("= 1")) << ü.sql.toStdString();
-    }
-}
-
 TEST_P(DialektTest, StatementsOfTheComponentRun) {
     sql("INSERT INTO \"0100_Prüfung\" (\"PrüfungID\", AnlagenID, Datum, ProtokollNr) VALUES "
         "(2, 1, '2024-05-01', '00000007'), (3, 1, '2024-05-01', NULL);");
@@ -141,49 +86,8 @@ TEST_P(DialektTest, StatementsOfTheComponentRun) {
     EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
 }
 
-// A list of codes read in one go: in the statement's order, a Null as an empty text, a number as
-// the system writes it.
-TEST_P(DialektTest, TheFirstColumnAsTexts) {
-    sql("INSERT INTO \"0100_Verteiler\" (VerteilerID, \"PrüfungID\", Code) VALUES (911, 9, '002'), "
-        "(912, 9, NULL), (913, 9, 'a'), (914, 10, '001');");
-    EXPECT_EQ(
-        db().ersteSpalte("SELECT Code FROM 0100_Verteiler WHERE PrüfungID = 9 GROUP BY Code ORDER BY Code"),
-        (QStringList{"", "002", "a"}));
-    EXPECT_EQ(db().ersteSpalte("SELECT VerteilerID * 10 FROM 0100_Verteiler WHERE PrüfungID = 10"),
-              QStringList{"9140"});
-    EXPECT_THROW(db().ersteSpalte("SELECT Code FROM KeineTabelle"), Fehler);
-}
-
 INSTANTIATE_TEST_SUITE_P(Motoren, DialektTest, test::beideMotoren, test::motorName);
 
 using SqliteDialektTest = test::Testumgebung;
-
-// A bound value is compared as the literal it replaces: with the column's affinity and collation, a
-// number with a text column and a text with a number column. Each condition counts the same rows
-// through the store as through plain SQLite with the literal in place.
-TEST_F(SqliteDialektTest, BoundLiteralsFindWhatTheLiteralsFound) {
-    neueDatenbank(true);
-    sql("INSERT INTO \"0100_Verteiler\" (VerteilerID, \"PrüfungID\", Code, Name) VALUES "
-        "(901, 7, '001', 'Keller'), (902, 7, '1', 'keller'), (903, 8, '10', 'Dach'), (904, 8, 'A', NULL), "
-        "(905, 8, 'B', 'O''Neill');");
-    const QStringList bedingungen{"Code = '001'",      "Code = 1",         "Code = 1.0",
-                                  "Code = 'a'",        "Name = 'KELLER'",  "PrüfungID = '7'",
-                                  "PrüfungID = 7.0",   "PrüfungID > 7",    "VerteilerID <= 902.5",
-                                  "Code >= '1'",       "Name <> 'Keller'", "PrüfungID = 1/1*7",
-                                  "Code = '1' || '0'", "Name = 'o''neill'"};
-    sqlite3* roh = nullptr;
-    ASSERT_EQ(sqlite3_open(m_dbPfad.toUtf8().constData(), &roh), SQLITE_OK);
-    for (const QString& b : bedingungen) {
-        const QString store = "SELECT Count(*) FROM 0100_Verteiler WHERE VerteilerID > 900 AND " + b;
-        const QString nativ = "SELECT Count(*) FROM \"0100_Verteiler\" WHERE VerteilerID > 900 AND " + b;
-        sqlite3_stmt* s = nullptr;
-        ASSERT_EQ(sqlite3_prepare_v2(roh, nativ.toUtf8().constData(), -1, &s, nullptr), SQLITE_OK)
-            << nativ.toStdString();
-        ASSERT_EQ(sqlite3_step(s), SQLITE_ROW);
-        EXPECT_EQ(wert(store), QString::number(sqlite3_column_int(s, 0))) << b.toStdString();
-        sqlite3_finalize(s);
-    }
-    sqlite3_close(roh);
-}
 
 } // namespace

@@ -79,12 +79,4 @@ TEST_F(HostdatenTest, Every37xxFunctionNameGoesSomewhere) {
             << name.toStdString();
 }
 
-// The limit tables are copied into each other by position.
-TEST_F(HostdatenTest, LimitTablesKeepOneColumnOrder) {
-    const QStringList standard = spaltenVon("0100_GrenzwertStandard");
-    const QStringList grenzwert = spaltenVon("0100_Grenzwert");
-    EXPECT_EQ(standard.mid(1), grenzwert.mid(1));
-    EXPECT_EQ(anzahl("0100_GrenzwertStandard"), 1);
-}
-
 } // namespace

@@ -44,51 +44,6 @@ TEST_F(WerteTest, ControlRowStartsARowOfNoCircuitYet) {
     EXPECT_EQ(grenzwert("ErdRE", ids[0]) + " " + grenzwert("ErdRE", ids[1]), " <200");
 }
 
-TEST_F(WerteTest, TextBlockGetsTwoHeadingLines) {
-    einlesen({"VOLTAGE, M, U L-N|231|V", "VOLTAGE, M, f|50|Hz", "HARMONICS|3,1|%"});
-    übernehmen();
-    EXPECT_EQ(reihen("Funktion|Messwert|Einheit"),
-              (QStringList{"Datum|01.02.2024|", "Uhrzeit|10:11:12|", "VOLTAGE U L-N|231|V", "VOLTAGE f|50|Hz",
-                           "HARMONICS HARMONICS|3,1|%"}));
-
-    // Without a text block first, there are no heading lines.
-    einlesen({"LOW Ohm|0,2|Ohm", "INSULATION, M, R|999|MOhm"}, 2);
-    übernehmen(2);
-    EXPECT_EQ(reihen("Funktion|LOW").mid(5), QStringList{"INSULATION R|0,2"});
-}
-
-TEST_F(WerteTest, ContinuityAndLoopPairs) {
-    einlesen({"R +/-200mA, M, R|0,21|Ohm", "R +/-200mA, M, R+|0,20|Ohm", "R +/-200mA, M, R-|0,22|Ohm",
-              "Ri|0,45|Ohm", "Ik|1,2|kA"});
-    übernehmen();
-    einlesen({"R +/-200mA, M, R+|0,30|Ohm", "R +/-200mA, M, R-|0,32|Ohm"}, 2);
-    übernehmen(2);
-    einlesen({"R LOOP N-PE, M, Isc|0,8|kA"}, 3);
-    übernehmen(3);
-    EXPECT_EQ(reihen("LOW|LOOPRI|LoopIKRI|Funktion|Messwert|Einheit"),
-              (QStringList{"0,21|0,45|1200|||", "0,30|||||", "|||IK (N-PE)|800|A"}));
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-}
-
-TEST_F(WerteTest, ReportedLimitsGoToTheLimitRow) {
-    einlesen({"R ISO, G, R|>2|MOhm", "R ISO, G, U|500|V", "R ISO, M, R|250|MOhm",
-              "R +/-200mA, G, R|<1000|mOhm", "R EARTH, G, R|<0,2|kOhm"});
-    übernehmen();
-    // The row behind the limit belongs to it: no test voltage.
-    EXPECT_EQ(reihen("RISO|UISO"), QStringList{"250|"});
-    EXPECT_EQ(grenzwerte("RISO|LOW|ErdRE", messIDs().value(0)), ">2|<1|<200");
-    EXPECT_EQ(anzahl("0100_Grenzwert"), 1);
-
-    // The test voltage decides the insulation limit even after the row was made; an unknown one
-    // changes nothing.
-    einlesen({"R ISO, G, R|>2|MOhm", "R ISO, G, U|500|V", "R ISO, E, Un|250|V"}, 2);
-    einlesen({"R ISO, E, Un|42|V"}, 3);
-    übernehmen(2);
-    übernehmen(3);
-    EXPECT_EQ(grenzwert("RISO", messIDs().value(1)), ">0,5");
-    EXPECT_EQ(grenzwert("RISO", messIDs().value(2)), ">1");
-}
-
 TEST_F(WerteTest, NamesWithoutARoutineOrColumn) {
     // A name the table does not know goes to the column of the last name it knew.
     einlesen({"LOW Ohm|0,3|Ohm", "Gibtsnicht|0,5|Ohm"});

@@ -46,20 +46,6 @@ protected:
     QString anlage(const QString& spalten) const { return felder("0100U_CertNic", "pid = 200", spalten); }
 };
 
-TEST_F(ZertifikatTest, EachLevelKeepsItsWorstValue) {
-    zertifikat({"T min|5|MOhm", "T max|0,4|Ohm", "T board|0,4|Ohm"});
-    zertifikat({"T min|3|MOhm", "T max|0,35|Ohm", "T board|0,6|Ohm"});
-    EXPECT_EQ(kreis("RISO|LOOPRS"), "3|0,4");
-    EXPECT_EQ(anlage("ZsMax"), "0,4");
-    EXPECT_EQ(verteiler("IpfMax|ZsMax"), "0,4|0,6");
-
-    // The installation's procedure writes no circuit.
-    zertifikat({"T min|7|MOhm", "T max|1.5|Ohm", "T root|12|Ohm"});
-    EXPECT_EQ(kreis("RISO|LOOPRS|LOW"), "3|1.5|");
-    EXPECT_EQ(anlage("RaMax"), "12");
-    EXPECT_EQ(anzahl("0100_Messung"), 1);
-}
-
 // A value with a sign is judged by its sign alone: one marked worse always wins, even over another
 // marked value, and a plain number never beats a marked old value.
 TEST_F(ZertifikatTest, SignedValuesAreDecidedByTheirSign) {
@@ -70,23 +56,6 @@ TEST_F(ZertifikatTest, SignedValuesAreDecidedByTheirSign) {
     EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">3 <1");
     zertifikat({"T board|>2|A", "T min|0,1|MOhm", "T min|<0,5|MOhm"});
     EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">2 <0,5");
-}
-
-// The trip time comes first and waits for its factor row, which picks the column of the circuit
-// and of the board; a handler of another factor leaves everything alone. The kept time itself is
-// written nowhere.
-TEST_F(ZertifikatTest, TheFactorRowPlacesTheTripTime) {
-    zertifikat({"RCD t, M, t|18|ms", "RCD t, E, Idn|30|mA", "RCD t, E, mult.:|x1|"});
-    EXPECT_EQ(kreis("FIT_x1|FIT_x5|FIT_x12|FIT"), "18|||");
-    EXPECT_EQ(verteiler("FIT_x1|FIT_x5"), "18|");
-
-    zertifikat({"RCD t, M, t|12|ms", "RCD t, E, mult.:|x1|", "RCD t, M, t|9|ms", "RCD t, E, mult.:|x5|",
-                "RCD t, M, t|>300|ms", "RCD t, E, mult.:|x1/2|"});
-    EXPECT_EQ(kreis("FIT_x1|FIT_x5|FIT_x12"), "18|9|>300");
-    EXPECT_EQ(verteiler("FIT_x12"), ">300");
-    zertifikat({"RCD t, M, t|25|ms", "RCD t, E, mult.:|x1|"});
-    EXPECT_EQ(kreis("FIT_x1") + " " + verteiler("FIT_x1"), "25 25");
-    EXPECT_EQ(anzahl("0100_Messung"), 1);
 }
 
 // An old circuit without measurement row gets one from its first value, by a value procedure or by
@@ -103,24 +72,6 @@ TEST_F(ZertifikatTest, OnlyTheCircuitGetsAMissingRecord) {
     EXPECT_EQ(wert("SELECT StromkreisID || ' ' || FIT_x5 FROM 0100_Messung"), "400 40");
     EXPECT_EQ(anzahl("0100_Messung"), 1);
     EXPECT_EQ(verteiler("FIT_x5"), "40");
-}
-
-// A read-in row without circuit, or without board, passes over the values of the missing levels and
-// still writes those of the installation.
-TEST_F(ZertifikatTest, ALevelWithoutKeyIsPassedOver) {
-    zertifikat({"T max|0,9|Ohm", "RCD t, M, t|20|ms", "RCD t, E, mult.:|x1|"}, 0);
-    EXPECT_EQ(kreis("LOOPRS|FIT_x1"), "|");
-    EXPECT_EQ(anzahl("0100_Messung"), 1);
-    EXPECT_EQ(verteiler("IpfMax|FIT_x1"), "0,9|20");
-    EXPECT_EQ(anlage("ZsMax"), "0,9");
-
-    zertifikat({"T max|1,9|Ohm", "T board|1,9|Ohm", "RCD t, M, t|30|ms", "RCD t, E, mult.:|x1|"}, 0, 0);
-    EXPECT_EQ(verteiler("IpfMax|ZsMax|FIT_x1"), "0,9||20");
-    EXPECT_EQ(anlage("ZsMax"), "1,9");
-
-    // A circuit key with no board is no circuit of a certificate either.
-    zertifikat({"T max|2,9|Ohm"}, 400, 0);
-    EXPECT_EQ(kreis("LOOPRS") + " " + anlage("ZsMax"), " 2,9");
 }
 
 // What the certificate does not know goes nowhere, silently; a mapping that names a column that
