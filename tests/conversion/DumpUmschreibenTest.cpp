@@ -36,13 +36,6 @@ protected:
                 Leer};
     }
     static QStringList ende() { return {" _______________________", Leer, Leer, Leer}; }
-    // Lines apart by "|", "-" standing for the ruler and "_" for a blank line.
-    static QStringList kurzform(const QString& text) {
-        QStringList z = text.split('|');
-        for (QString& zeile : z)
-            zeile = zeile == "-" ? Lineal : zeile == "_" ? Leer : zeile;
-        return z;
-    }
 };
 
 TEST_F(DumpUmschreibenTest, EinFehlerLässtDenDumpStehen) {

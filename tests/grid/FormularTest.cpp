@@ -50,28 +50,4 @@ TEST_F(FormularTest, EditResultsOnAnEmptyTableSaysSoAndStays) {
     EXPECT_EQ(m_ui.meldungen[0].titel, modul().anwendungstitel);
 }
 
-TEST_F(FormularMitZeilen, TheTakeOverIsPluggedInAndDrivesTheForm) {
-    auto f = formular();
-    f->übernehmenKlick();
-    ASSERT_EQ(m_ui.meldungen.size(), 1); // nothing plugged in: the user is told
-
-    QSignalSpy aktualisiert(f.get(), &DialogController::aktualisiert);
-    EinleseDatenController::datenübernahmeEinsetzen([](EinleseDatenController& form) {
-        Schaltflächen aus = form.schaltflächen();
-        aus.übernehmen = aus.löschen = aus.schließen = false;
-        form.setSchaltflächen(aus);
-        form.setFortschritt({0, int(form.zeilenAnzahl()), 1, true});
-        form.setAnzahlZeilen("1 / 4");
-        db().Execute("DELETE * FROM 0100_EinleseDaten WHERE MessungID = 1");
-        form.EinleseGridRefresh(1, form.zeilenAnzahl() - 1);
-    });
-    f->übernehmenKlick();
-    EXPECT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_EQ(f->fortschritt().Max, 4);
-    EXPECT_TRUE(f->fortschritt().sichtbar);
-    EXPECT_FALSE(f->schaltflächen().schließen);
-    EXPECT_EQ(f->grid().Rows(), 4);
-    EXPECT_GE(aktualisiert.count(), 4);
-}
-
 } // namespace

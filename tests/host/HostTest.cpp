@@ -35,30 +35,6 @@ protected:
     QString lastFile() const { return m_settings.GetSetting("Application", "LastFile"); }
 };
 
-TEST_F(HostTest, RecognisesTheFamilyFromTheFirstLines) {
-    const struct {
-        QByteArray inhalt;
-        QString selektor;
-    } fälle[] = {
-        {"Messdruck kont ex\r\n", selektor::Deutsch}, // without regard to case
-        {"0\r\nZEMAK 3720,1,1\r\n", selektor::Zemak3720},
-        {"   \r\nOMNIVAR\r\n", selektor::Deutsch},
-        {"Protokoll Verteiler 1\r\n", selektor::Kontalex},
-        {QByteArray("xx\xFF\xD5\xD5\xD5\x0A\x01", 8), selektor::Sorelin},
-    };
-    for (const auto& f : fälle) {
-        modul().Selektor() = "vorher";
-        GeräteErkennen(datei("probe.ser", f.inhalt));
-        EXPECT_EQ(modul().Selektor(), f.selektor) << f.inhalt.constData();
-    }
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-
-    GeräteErkennen(pfad("fehlt.ser"));
-    EXPECT_EQ(modul().Selektor(), selektor::Sorelin); // an unreadable file keeps the selector
-    ASSERT_EQ(m_ui.meldungen.size(), 1);
-    EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("53 "));
-}
-
 TEST_F(HostTest, FileNumbersAdvancePastCopiesThatExist) {
     EXPECT_EQ(NächsteDateiNummer(), "00000001"); // first use, no setting
     m_settings.SaveSetting("Application", "LastFile", "LastFile = 00000041");

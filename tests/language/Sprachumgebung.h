@@ -21,7 +21,6 @@ protected:
     }
 
     Datenbank sprachDb() const { return Datenbank::OpenDatabase(pfad(sprachdatenbank::DateiName)); }
-    void spracheSql(const QString& natives) const { sprachDb().skriptAusführen(natives); }
     // The first column of the first row of a query on the language database, as text.
     QString spracheWert(const QString& abfrage, const QVector<QVariant>& werte = {}) const {
         Recordset rs = sprachDb().OpenRecordset(abfrage, werte);

@@ -132,20 +132,5 @@ TEST_F(CommPortTest, LeitungsfehlerDesTreibersWerdenEreignisse) {
               (QList<int>{commEreignis::Überlauf, commEreignis::Paritätsfehler, commEreignis::Empfangen}));
 }
 
-TEST_F(CommPortTest, PortnummerUndPfadWaehlenDasGeraet) {
-    EXPECT_EQ(portGerät(1), "/dev/ttyS0");
-    EXPECT_EQ(portGerät(12), "/dev/ttyS11");
-    EXPECT_EQ(portGerät(0), QString());
-    EXPECT_EQ(portGerät(-3), QString());
-    m_settings.SaveSetting("Ports", "COM3", " /dev/ttyUSB0 ");
-    EXPECT_EQ(portGerät(3), "/dev/ttyUSB0");
-    EXPECT_EQ(portGerät(4), "/dev/ttyS3");
-
-    modul().CommPort = 3;
-    EXPECT_EQ(modulPortGerät(), "/dev/ttyUSB0");
-    modul().portPfad = "/tmp/sim-port";
-    EXPECT_EQ(modulPortGerät(), "/tmp/sim-port");
-}
-
 } // namespace
 } // namespace vemo::test

@@ -132,26 +132,4 @@ TEST_F(LoggerAnsichtTest, DerDatumsdialogSchließtUndDerDatenpoolFolgt) {
     modul().ui = &m_ui;
 }
 
-TEST_F(LoggerAnsichtTest, DieFelderNehmenNurZiffern) {
-    Zuordnen pool;
-    DatenLogger logger(pool);
-    const auto fenster = ansicht(logger);
-    fenster->show();
-    fenster->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(fenster.get()));
-    auto* tag = fenster->findChild<QLineEdit*>("Text1_0");
-    auto* monat = fenster->findChild<QLineEdit*>("Text1_1");
-    ASSERT_TRUE(tag && monat);
-    tag->setFocus();
-    tag->clear();
-    QTest::keyClicks(tag, "a5.");
-    EXPECT_EQ(logger.feld(0), "5");
-    monat->setFocus();
-    EXPECT_EQ(tag->text(), "05") << "the field left shows two digits";
-    QTest::keyClick(monat, Qt::Key_End);
-    QTest::keyClick(monat, Qt::Key_Backspace);
-    EXPECT_EQ(logger.feld(1).size(), 1);
-    EXPECT_EQ(fenster->windowTitle(), logger.titel());
-}
-
 } // namespace

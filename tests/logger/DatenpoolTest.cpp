@@ -139,22 +139,6 @@ TEST_F(DatenpoolTest, EinFehlerBeimSpeichernLässtNichtsZurück) {
     EXPECT_EQ(nachher[3], vorher[3] + 1);
 }
 
-TEST_F(DatenpoolTest, OhneAuftraggeberOderAnlageWirdNichtsGeschrieben) {
-    const long prüfungen = anzahl("0100_Prüfung");
-    const long zertifikate = anzahl("0100U_CertNic");
-    einlesen("corvex-datenlogger.ser");
-    auswählen(1, 0);
-    einlesen("corvex-datenlogger.ser");
-    ASSERT_EQ(m_ui.meldungen.size(), 2);
-    EXPECT_EQ(m_ui.meldungen[0].text, "Zuvor einen Auftraggeber...");
-    EXPECT_EQ(m_ui.meldungen[1].text, "Zuvor eine Anlage...");
-    EXPECT_EQ(m_ui.meldungen[1].stil.symbol, MsgSymbol::Warnung);
-    EXPECT_EQ(anzahl("0100_Prüfung"), prüfungen);
-    EXPECT_EQ(anzahl("datlog37"), 0);
-    EXPECT_EQ(anzahl("messreihe37"), 0);
-    EXPECT_EQ(anzahl("0100U_CertNic"), zertifikate);
-}
-
 // The logger of a command-protocol instrument comes through the rendering of its record file.
 TEST_F(DatenpoolTest, EineKontalexReiheGehtDenselbenWeg) {
     auswählen(1, 1);

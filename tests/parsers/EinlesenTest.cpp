@@ -34,14 +34,6 @@ protected:
         EXPECT_EQ(m_ui.sanduhrTiefe, 0);
     }
 
-    // PrüfgerätID of the read-ins, newest first.
-    QStringList prüfgeräte() const {
-        QStringList ids;
-        Recordset r = db().OpenRecordset("SELECT * FROM 0100_EinleseGeräteDaten ORDER BY GeräteID DESC");
-        for (; !r.Eof(); r.MoveNext())
-            ids << text(r.Field("PrüfgerätID"));
-        return ids;
-    }
     long geschrieben() const {
         return anzahl("0100_EinleseGeräteDaten") + anzahl("0100_EinleseDaten") +
                anzahl("0100_EinleseMessDaten") + anzahl("Prüfgerät");

@@ -44,36 +44,4 @@ TEST_F(WerteTest, ControlRowStartsARowOfNoCircuitYet) {
     EXPECT_EQ(grenzwert("ErdRE", ids[0]) + " " + grenzwert("ErdRE", ids[1]), " <200");
 }
 
-TEST_F(WerteTest, NamesWithoutARoutineOrColumn) {
-    // A name the table does not know goes to the column of the last name it knew.
-    einlesen({"LOW Ohm|0,3|Ohm", "Gibtsnicht|0,5|Ohm"});
-    übernehmen();
-    EXPECT_EQ(spalte("LOW"), (QStringList{"0,3", "0,5"}));
-
-    // With none before, the mapping ends there and adds only its first row.
-    einlesen({"Gibtsnicht|5|", "LOW Ohm|0,7|Ohm"}, 2);
-    übernehmen(2);
-    EXPECT_EQ(spalte("LOW"), (QStringList{"0,3", "0,5", ""}));
-
-    // A column the table names wrongly ends it too; the values before it stay.
-    sql(R"(INSERT INTO "0100_TeilFunktion" VALUES ('Kaputt', 'KeineSolcheSpalte', ''))");
-    einlesen({"LOW Ohm|0,9|Ohm", "Kaputt|1|", "Re|2|Ohm"}, 3);
-    übernehmen(3);
-    EXPECT_EQ(reihen("LOW|ErdRE").last(), "0,9|");
-
-    // A name a routine should have taken, and a dropped one.
-    einlesen({"RCD AUTO, M, Ub|3|V", "R +/-200mA, M, R-|0,1|Ohm"}, 4);
-    übernehmen(4);
-    EXPECT_EQ(m_ui.texte(), QStringList{"keine case behandlung vorhanden RCD AUTO, M, Ub"});
-    EXPECT_EQ(m_ui.meldungen.value(0).titel, "vemotrix professional");
-    EXPECT_EQ(anzahl("0100_Messung"), 5);
-    EXPECT_EQ(spalte("LOW").last(), "");
-
-    // A quote is part of a name: one the table does not know is dropped, the row's other values land.
-    einlesen({"Zs|0,4|Ohm", "it's|1|A"}, 5);
-    übernehmen(5);
-    EXPECT_EQ(spalte("LOOPRS").last(), "0,4");
-    EXPECT_EQ(anzahl("0100_Messung"), 6);
-}
-
 } // namespace
