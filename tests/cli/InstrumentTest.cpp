@@ -122,21 +122,5 @@ TEST_F(InstrumentTest, NoInstrumentAnsweringIsNoConnection) {
     EXPECT_EQ(amPort({"--code-splitting", "yes"}).status, 2);
 }
 
-// The code splitting needs no instrument, and the next read of a 3720's memory obeys it.
-TEST_F(InstrumentTest, TheSavedCodeSplittingDividesTheNextRead) {
-    ASSERT_EQ(vemo({"instrument", "--code-splitting", "on", "--customer-digits", "3", "--board-digits", "1"})
-                  .status,
-              0);
-    ASSERT_EQ(vemo({"read-file", quelle("samples/zemak-3720.ser")}).status, 0);
-    const Datenbank cli = Datenbank::OpenDatabase(db());
-    EXPECT_EQ(
-        cli.OpenRecordset("SELECT ifnull(KundeNr, '') || '/' || AnlageNr || '/' || VerteilerNr || '/' || "
-                          "StromkreisNr FROM 0100_EinleseDaten ORDER BY MessungID")
-            .Field(0)
-            .toString(),
-        "120/002/0000/0101")
-        << "board code 1202, circuit code 0101";
-}
-
 } // namespace
 } // namespace vemo::test

@@ -7,7 +7,6 @@
 #include "platform/Textdatei.h"
 
 #include <QDir>
-#include <QFile>
 
 using namespace vemo;
 

@@ -1,7 +1,6 @@
 #include "core/Instrumentenuhr.h"
 
 #include <QDateTime>
-#include <QTimeZone>
 #include <gtest/gtest.h>
 #include <limits>
 #include <time.h>

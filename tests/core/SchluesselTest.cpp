@@ -1,6 +1,5 @@
 #include "core/Schluesselvergabe.h"
 #include "core/Vorbelegung.h"
-#include "store/Recordset.h"
 #include "store/Variant.h"
 #include "support/Testumgebung.h"
 
@@ -31,21 +30,6 @@ TEST_F(SchluesselTest, KeysCountPerTableAndReplica) {
     ASSERT_EQ(m_ui.meldungen.size(), 1);
     EXPECT_TRUE(m_ui.meldungen[0].text.startsWith("6 "));
     EXPECT_EQ(m_ui.meldungen[0].titel, "vemotrix professional");
-}
-
-TEST_F(SchluesselTest, CodesFillTheFirstGap) {
-    EXPECT_EQ(NeuerCode("Anlage", 1), "001");
-    sql("INSERT INTO \"0100_Anlage\" (AnlageID, KundeID, Code) VALUES (1, 1, '001'), (2, 1, '002'), (3, 1, "
-        "'004'),"
-        "(4, 2, 'abc'), (5, 3, '2'), (6, 3, '10');");
-    EXPECT_EQ(NeuerCode("Anlage", 1), "003");
-    EXPECT_EQ(NeuerCode("Anlage", 2), "001");
-    EXPECT_EQ(NeuerCode("Anlage", 3), "001"); // "10" sorts before "2" and ends the climb
-    sql("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 998) "
-        "INSERT INTO \"0100_Stromkreis\" (StromkreisID, VerteilerID, Code) SELECT i, 9, substr('00' || i, "
-        "-3) FROM n;");
-    EXPECT_EQ(NeuerCode("Stromkreis", 9), "");
-    EXPECT_THROW(NeuerCode("Kunde", 1), Fehler);
 }
 
 // Report numbers have at least eight digits. A run counts on from the highest number it read: past

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
 #include <QTableView>
 #include <QTest>
 

@@ -2,8 +2,6 @@
 
 #include "platform/Zahlformat.h"
 
-#include <QDate>
-
 using namespace vemo;
 using namespace vemo::test;
 

@@ -6,7 +6,6 @@
 #include "takeover/Uebernahme.h"
 
 #include <QComboBox>
-#include <QHeaderView>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>

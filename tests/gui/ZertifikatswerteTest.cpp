@@ -10,7 +10,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>

@@ -1,4 +1,3 @@
-#include "support/Dateien.h"
 #include "support/Leitung.h"
 #include "support/Testumgebung.h"
 

@@ -14,7 +14,6 @@
 
 #include <QDir>
 #include <QMap>
-#include <QTimer>
 
 using namespace vemo;
 

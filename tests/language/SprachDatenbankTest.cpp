@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QHash>
 #include <QRegularExpression>
-#include <QSet>
 
 namespace vemo::test {
 namespace {

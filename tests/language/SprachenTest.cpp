@@ -1,7 +1,5 @@
 #include "Sprachumgebung.h"
 
-#include "store/Recordset.h"
-
 namespace vemo::test {
 namespace {
 

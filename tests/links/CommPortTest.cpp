@@ -15,37 +15,6 @@ namespace {
 
 class CommPortTest : public Testumgebung {};
 
-TEST_F(CommPortTest, SpeicherpaarLiefertStueckweiseUndMeldetAbDerSchwelle) {
-    auto [a, b] = SpeicherCommPort::paar(16);
-    a->setPortOpen(true);
-    b->setPortOpen(true);
-    b->setRThreshold(20);
-    QSignalSpy ereignisse(b.get(), &CommPort::comm);
-
-    a->Output(QByteArray(40, 'x'));
-    QCoreApplication::processEvents();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(b->InBufferCount(), 32) << "16 bytes a turn of the event loop";
-    QCoreApplication::processEvents();
-    ASSERT_EQ(ereignisse.size(), 1);
-    EXPECT_EQ(ereignisse[0][0].toInt(), commEreignis::Empfangen);
-    EXPECT_EQ(b->CommEvent(), commEreignis::Empfangen);
-    EXPECT_EQ(b->Input(), QByteArray(40, 'x'));
-    EXPECT_EQ(b->InBufferCount(), 0);
-
-    // A closed end loses what reaches it; its partner's lines drop with it.
-    a->setRTSEnable(true);
-    EXPECT_TRUE(b->CTSHolding());
-    b->setPortOpen(false);
-    a->Output("verloren");
-    QCoreApplication::processEvents();
-    b->setPortOpen(true);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(b->Input(), QByteArray());
-    a->setPortOpen(false);
-    EXPECT_FALSE(b->CTSHolding());
-}
-
 TEST_F(CommPortTest, FalscheBedienungGibtDieFehlerDerSteuerung) {
     auto [a, b] = SpeicherCommPort::paar();
     EXPECT_EQ(fehlernummer([&] { a->Input(); }), fehler::PortNichtGeöffnet);

@@ -1,5 +1,4 @@
 #include "support/Dateien.h"
-#include "support/Fehlernummer.h"
 #include "support/Testumgebung.h"
 
 #include "KontalexSpeicher.h"
@@ -28,37 +27,6 @@ protected:
     }
     QByteArray lesen(const QString& name) const { return inhalt(pfad(name)); }
 };
-
-// Fields shorter than three bytes say nothing; the logger's function code is noticed; a code
-// beyond its table stops the walk with the bounds error, the groups before it delivered.
-TEST_F(KontalexDekoderTest, KurzeFelderLoggerUndCodesAusserhalbDerTabelle) {
-    bool logger = false;
-    const QByteArray messbytes("\x66"
-                               "P\x88\x08"
-                               "60\0"
-                               "x\0"
-                               "M\x87\x65"
-                               "231\0",
-                               16);
-    EXPECT_EQ(zeilen(messzeilenLesen(messbytes, allgemeineNamen(), logger)),
-              (QStringList{"UL-UN LOGGER|E|Intervall |60|s", "UL-UN LOGGER|G|Mittelwert|231|V"}));
-    EXPECT_TRUE(logger);
-
-    const QByteArray gut =
-        kontalexBlock(Blockform::Block, {0, 0, 1, "t", "d", 1}, {1, {{'R', 32, 1, "398"}}});
-    const QByteArray schlecht =
-        kontalexBlock(Blockform::Block, {0, 0, 2, "t", "d", 2}, {11, {{'R', 1, 1, "1"}}});
-    QList<Ortsgruppe> geliefert;
-    KontalexDekoder d(kontalexModell("VOLTIRA 9KV"), {});
-    // Function code 11 lies beyond the high-voltage table.
-    EXPECT_EQ(fehlernummer(
-                  [&] { d.dekodieren(gut + schlecht + gut, [&](const Ortsgruppe& g) { geliefert << g; }); }),
-              fehler::IndexAußerhalb);
-    EXPECT_EQ(geliefert.size(), 1);
-    EXPECT_FALSE(d.loggerDaten());
-    EXPECT_TRUE(dekodieren("KONTALEX", sim::kontalex::Endblock + "SRE").isEmpty())
-        << "no group in an end block";
-}
 
 // The record file: every line eight values, texts quoted, CR LF; an empty memory is the end line
 // and the word table's message.

@@ -7,7 +7,6 @@
 
 #include <QDateTime>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace vemo::test {
 namespace {

@@ -11,7 +11,6 @@
 #include "platform/QtUi.h"
 
 #include <QApplication>
-#include <QChart>
 #include <QChartView>
 #include <QCheckBox>
 #include <QDialog>

@@ -87,16 +87,4 @@ TEST_F(Einlesen, DumpCutShortKeepsTheRowsWrittenSoFar) {
     EXPECT_EQ(anzahlen("0100_EinleseDaten|0100_EinleseMessDaten"), "3|3");
 }
 
-TEST_F(Einlesen, LoggerRecordAndDumpWithoutBlockGoToTheDataPool) {
-    long geräte = 0;
-    for (const QString probe : {"corvex-datenlogger.ser", "corvex-ohne-block.ser"}) {
-        probeLesen(probe, "/tmp/x.ser");
-        EXPECT_TRUE(modul().DatenloggerMode) << probe.toStdString();
-        EXPECT_EQ(modul().Abbruchmerker, 0);
-        EXPECT_EQ(m_ui.texte(), QStringList());
-        EXPECT_EQ(anzahl("0100_EinleseGeräteDaten"), ++geräte);
-        EXPECT_EQ(anzahl("0100_EinleseDaten"), 0);
-    }
-}
-
 } // namespace

@@ -104,38 +104,6 @@ TEST_F(KontalexEinlesen, ProbenJedesModells) {
     EXPECT_EQ(blöcke()[2].left(16), " 0000 1000 08:02");
 }
 
-// What the parser makes of its edge cases: a serial group anywhere in the number, a comment behind
-// "!", board 0, a value whose function begins with "-", a block without values, a model with
-// trailing blanks.
-TEST_F(KontalexEinlesen, GrenzfaelleDesSatzformats) {
-    QList<QByteArray> datei = gerät("VOLTIRA 9KV  ", "HV-1153");
-    datei += block(1, 0, "12345", {{"VOLTAGE", "M", "U", "12!3", "kV"}});
-    datei += block(2, 7, "8");
-    datei += block(2, 7, "9",
-                   {{"VOLTAGE", "M", "f", "50", "Hz"},
-                    {"-VOLTAGE", "M", "U", "1", "V"},
-                    {"VOLTAGE", "M", "U", "2", "V"}});
-    datei += block(0, 5, "0", {{"VOLTAGE", "M", "U", "3", "V"}});
-    datei += marke(kontalexsatz::Endemarke);
-    satzdateiLesen(datei, "/media/stick/00000007.ser");
-
-    EXPECT_TRUE(m_ui.meldungen.isEmpty()) << m_ui.texte().join(" | ").toStdString();
-    EXPECT_EQ(blöcke(), (QStringList{
-                            "001 0000 2345 09:15 18.03.2024: VOLTAGE, M, U=12 kV",
-                            "002 0007 0008 09:15 18.03.2024: ",
-                            "002 0007 0009 09:15 18.03.2024: VOLTAGE, M, f=50 Hz",
-                            " 0005 0000 09:15 18.03.2024: VOLTAGE, M, U=3 V",
-                        }));
-    EXPECT_EQ(wert("SELECT PrüfgerätName FROM 0100_EinleseGeräteDaten"), "VOLTIRA 9KV  ");
-    EXPECT_EQ(anzahl("Prüfgerät"), 0) << "a file's instrument stays out of the register";
-
-    sql("DELETE FROM [0100_EinleseDaten]");
-    datei[1] = satzzeile({"KONTALEX", "STD", "2.14", "HW 3", "KX-1153", "01.2024", "Deutsch", 1});
-    satzdateiLesen(datei);
-    EXPECT_EQ(blöcke()[0], "001 0000 0345 09:15 18.03.2024: VOLTAGE, M, U=12 kV")
-        << "other models keep three digits of the place";
-}
-
 TEST_F(KontalexEinlesen, UnbekanntesGeraetUndLoggerdateiSchreibenNichts) {
     QList<QByteArray> datei = gerät("KONTALEX", "99-1160");
     datei += block(1, 1, "1", {{"R ISO", "M", "R", "245", "MOhm"}});

@@ -7,7 +7,6 @@
 #include "host/DateiEinlesen.h"
 #include "parsers/EinlesenVonDatei.h"
 #include "parsers/SorelinTreiber.h"
-#include "store/Recordset.h"
 #include "store/Variant.h"
 
 namespace vemo::test {

@@ -114,33 +114,6 @@ TEST_F(Zemak, EachModelsSampleGivesOneRowPerRecordAndItsInstrument) {
     EXPECT_EQ(m_ui.meldungen.value(0).titel, Standardtitel);
 }
 
-TEST_F(Zemak, The3740ComparesItsNibblesUnshifted) {
-    const QString satz = "0002,04B2,0065,0,%1,%2,%3,0,0012,0010,0007,0,0,00,%4,00,0,0,0";
-    textLesen(selektor::Zemak3740,
-              speicher("ZEMAK 3740B,3.02,3740226",
-                       {
-                           satz.arg("1001", "04", "01", "00") + ",", // loop current: kA by field 7
-                           satz.arg("1000", "04", "01", "00") + ",", // line current: A by field 15
-                           satz.arg("6100", "06", "00", "01") + ",", // m = 1 is no "A", h = 6 no value C
-                           satz.arg("0000", "06", "00", "00") + ",",
-                           satz.arg("0003", "01", "00", "00") + ",", // n = 3 names no insulation
-                           satz.arg("0003", "02", "00", "00") + ",",
-                           satz.arg("0000", "05", "00", "00"), // 5: the row stands alone
-                       }));
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(blöcke(), QStringList({
-                            "1202 0101: Z LOOP, M, Z=0,018 Ohm | Z LOOP, M, Isc=16 KA",
-                            "1202 0101: Z LINE, M, Z=0,018 Ohm | Z LINE, M, Isc=16 A",
-                            "1202 0101: RCD I, M, Id=18 mA | RCD t, M, Ub=1,6 V | RCD t, G, Ub=<25 V | "
-                            "RCD t, E, Idn=∅ mA | RCD t, E, phase:= 0° | RCD t, E, type := ∅",
-                            "1202 0101: RCD I, M, Id=18 mA | RCD t, M, Ub=16 V | RCD t, G, Ub=<25 V | "
-                            "RCD t, E, Idn=10 mA | RCD t, E, phase:= 0° | RCD t, E, type := AC",
-                            "1202 0101: ∅=18 Mohm | R ISO, M, U=16 V | R ISO, E, Un=50 V",
-                            "1202 0101: ∅=18 Ohm",
-                            "1202 0101: ",
-                        }));
-}
-
 TEST_F(Zemak, CodeSplittingDividesTheTwoCodes) {
     const QStringList sätze{"04D2,162E,0,0012,00,0010,00,1C00,0,0"};
     lesen3720(sätze); // off by default
@@ -231,39 +204,6 @@ TEST_F(Zemak, AFailureEndsTheReadButThe3710GoesOnStatementByStatement) {
               "");
     lesen3720({"04B2,0065,0,0012,00"});
     EXPECT_EQ(m_ui.texte(), QStringList{"9 Index außerhalb des gültigen Bereichs (Feld 10)"});
-}
-
-TEST_F(Zemak, WhatAFileLacksIsToldOrLostAsTheModelsDo) {
-    const QString satz = "04B2,%1,0,0012,00,0010,00,1C00,0,0";
-    // Cut behind a record: that record is lost without a word.
-    textLesen(selektor::Zemak3720,
-              QStringList{Z3720, "QD 2,0003,"} +
-                  QStringList{satz.arg("0065") + ",", satz.arg("0066") + ",", satz.arg("0067")});
-    EXPECT_EQ(m_ui.texte(), QStringList());
-    EXPECT_EQ(blöcke(), QStringList({"1202 0101: Re=18 Ohm", "1202 0102: Re=18 Ohm"}));
-
-    // A code of more than four digits loses its leading ones.
-    lesen3720({"186A0,1E240,0,0012,00,0010,00,1C00,0,0"});
-    EXPECT_EQ(blöcke().last(), "0000 3456: Re=18 Ohm");
-
-    // No records: the empty line behind "QD 2" is read as one, and fails.
-    textLesen(selektor::Zemak3720, {Z3720, "QD 2,0000,", "", "00"});
-    EXPECT_EQ(m_ui.texte(), QStringList{"13 Typen unverträglich (\"\")"});
-    // No "QD 2" at all, as from an empty memory; and no identification line.
-    textLesen(selektor::Zemak3720, {Z3720, "XG,1", "5"});
-    EXPECT_EQ(m_ui.texte(), QStringList{"62 Einlesen hinter Dateiende"});
-    textLesen(selektor::Zemak3740, {"XG,1", "QD 2,00000001,", "00"});
-    EXPECT_EQ(m_ui.texte(), QStringList{"62 Einlesen hinter Dateiende"});
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 3);
-
-    // An identification line with one comma has no version.
-    textLesen(selektor::Zemak3720, {"ZEMAK 3720B,1.04", "QD 2,0001,", satz.arg("0065"), "00"});
-    EXPECT_TRUE(m_ui.texte().value(0).startsWith("5 ")) << m_ui.texte().value(0).toStdString();
-    EXPECT_EQ(m_ui.meldungen.value(0).titel, Standardtitel);
-    QFile::remove(arbeitsdatei(datei::Ruvo));
-    starten(selektor::Zemak, "/tmp/x.ser");
-    EXPECT_TRUE(m_ui.texte().value(0).startsWith("53 "));
-    EXPECT_EQ(anzahl("0100_EinleseDaten"), 3);
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 // of it. Every measured row arrives once, and the records equal those one workplace alone makes of
 // the same dumps in a file.
 #include "core/Schluesselvergabe.h"
-#include "store/Recordset.h"
 #include "store/Variant.h"
 #include "support/Kommandozeile.h"
 #include "support/Testumgebung.h"
@@ -69,20 +68,13 @@ protected:
     // Every measured value and its limits, by plant, board and circuit, without keys: rows that
     // several runs shared out among their inspections compare as the rows one run made.
     QStringList messwerte() const {
-        QStringList ergebnis;
-        Recordset m = db().OpenRecordset(
+        QStringList ergebnis = zeilen(
             "SELECT A.Code AS AC, V.Code AS VC, S.Code AS SC, M.*, G.* FROM ((((0100_Anlage AS A INNER JOIN "
             "0100_Prüfung AS P ON P.AnlagenID = A.AnlageID) INNER JOIN 0100_Verteiler AS V ON V.PrüfungID = "
             "P.PrüfungID) INNER JOIN 0100_Stromkreis AS S ON S.VerteilerID = V.VerteilerID) INNER JOIN "
             "0100_Messung AS M ON M.StromkreisID = S.StromkreisID) LEFT JOIN 0100_Grenzwert AS G ON "
-            "G.MessID = M.MessID");
-        for (; !m.Eof(); m.MoveNext()) {
-            QStringList felder;
-            for (int i = 0; i < m.FieldCount(); ++i)
-                if (!m.FieldName(i).endsWith("ID", Qt::CaseInsensitive))
-                    felder << text(m.Field(i));
-            ergebnis << felder.join('|');
-        }
+            "G.MessID = M.MessID",
+            {}, true);
         ergebnis.sort();
         return ergebnis << leere();
     }

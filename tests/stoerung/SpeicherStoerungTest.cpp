@@ -93,20 +93,13 @@ protected:
     // have used up: each measurement row by inspection, board and circuit, and each inspection's
     // instruments and earth resistance.
     QStringList ergebnis() const {
-        QStringList zeilen;
-        Recordset m = db().OpenRecordset(
+        QStringList zeilen = Testumgebung::zeilen(
             "SELECT A.Code AS AC, P.ProtokollNr AS PN, V.Code AS VC, S.Code AS SC, M.* FROM (((0100_Anlage "
-            "AS A "
-            "INNER JOIN 0100_Prüfung AS P ON P.AnlagenID = A.AnlageID) INNER JOIN 0100_Verteiler AS V ON "
+            "AS A INNER JOIN 0100_Prüfung AS P ON P.AnlagenID = A.AnlageID) INNER JOIN 0100_Verteiler AS V "
+            "ON "
             "V.PrüfungID = P.PrüfungID) INNER JOIN 0100_Stromkreis AS S ON S.VerteilerID = V.VerteilerID) "
-            "INNER JOIN 0100_Messung AS M ON M.StromkreisID = S.StromkreisID WHERE A.KundeID = 1");
-        for (; !m.Eof(); m.MoveNext()) {
-            QStringList felder;
-            for (int i = 0; i < m.FieldCount(); ++i)
-                if (!m.FieldName(i).endsWith("ID", Qt::CaseInsensitive))
-                    felder << text(m.Field(i));
-            zeilen << felder.join('|');
-        }
+            "INNER JOIN 0100_Messung AS M ON M.StromkreisID = S.StromkreisID WHERE A.KundeID = 1",
+            {}, true);
         Recordset p =
             db().OpenRecordset("SELECT A.Code, P.* FROM 0100_Anlage AS A INNER JOIN 0100_Prüfung AS P "
                                "ON P.AnlagenID = A.AnlageID WHERE A.KundeID = 1");

@@ -1,4 +1,3 @@
-#include "store/Recordset.h"
 #include "store/Schema.h"
 #include "support/Testumgebung.h"
 

@@ -10,8 +10,6 @@
 #include "support/Testumgebung.h"
 
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QFileInfo>
 #include <QProcess>
 #include <QTextStream>
 #include <QThread>

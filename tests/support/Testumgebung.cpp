@@ -69,14 +69,16 @@ QString Testumgebung::wert(const QString& abfrage, const QVector<QVariant>& wert
     return rs.Eof() ? QString() : text(rs.Field(0));
 }
 
-QStringList Testumgebung::zeilen(const QString& abfrage, const QVector<QVariant>& werte) const {
+QStringList Testumgebung::zeilen(const QString& abfrage, const QVector<QVariant>& werte,
+                                 bool ohneSchlüssel) const {
     QStringList ergebnis;
     Recordset rs =
         werte.isEmpty() ? modul().db.OpenRecordset(abfrage) : modul().db.OpenRecordset(abfrage, werte);
     for (; !rs.Eof(); rs.MoveNext()) {
         QStringList spalten;
         for (int i = 0; i < rs.FieldCount(); ++i)
-            spalten << text(rs.Field(i));
+            if (!ohneSchlüssel || !rs.FieldName(i).endsWith("ID", Qt::CaseInsensitive))
+                spalten << text(rs.Field(i));
         ergebnis << spalten.join('|');
     }
     return ergebnis;

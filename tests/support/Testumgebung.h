@@ -30,8 +30,10 @@ protected:
     // The first column of the first row of a query, as text.
     QString wert(const QString& abfrage) const;
     QString wert(const QString& abfrage, const QVector<QVariant>& werte) const;
-    // The rows of a query, each as its columns joined by "|", so that a result compares as one text.
-    QStringList zeilen(const QString& abfrage, const QVector<QVariant>& werte = {}) const;
+    // The rows of a query, each as its columns joined by "|", so that a result compares as one text;
+    // without its keys (the columns named ...ID), records of two databases whose keys differ.
+    QStringList zeilen(const QString& abfrage, const QVector<QVariant>& werte = {},
+                       bool ohneSchlüssel = false) const;
     // The first of them; empty without one.
     QString zeile(const QString& abfrage, const QVector<QVariant>& werte = {}) const;
     long anzahl(const QString& tabelle) const;

@@ -8,21 +8,6 @@ namespace {
 
 using RcdTest = test::Uebernahmeumgebung;
 
-TEST_F(RcdTest, FiveRowBlockFillsOneRowAndTheNextValuesFollowOnIt) {
-    einlesen({"tFI S|AC 180°|", "tFI S|30|mA", "tFI S|1|", "tFI S|38|ms", "tFI S|4,2|V", "Zs|0,45|Ohm",
-              "Ik|0,511|kA"});
-    übernehmen();
-    EXPECT_EQ(reihen("StromkreisID|FGRAD|FIIDN|FIFaktor|FIT|FIUB|LOOPRS|LoopIKRS"),
-              QStringList{"400|AC 180°|30|S x1|38|4,2|0,45|511"});
-    EXPECT_TRUE(m_ui.meldungen.isEmpty());
-
-    // Not selective, and cut short after the trip time: what came stays, the touch voltage is
-    // missing and nothing after the block is read.
-    einlesen({"tRCD|0°|", "tRCD|30|mA", "tRCD|5|", "tRCD|12|ms"}, 2);
-    übernehmen(2);
-    EXPECT_EQ(reihen("FIFaktor|FIT|FIUB"), (QStringList{"S x1|38|4,2", "x5|12|"}));
-}
-
 // Blocks with their factor row are the Corvex sample's road (UebernahmeTest); without one, a
 // selective test is still marked and another has no factor.
 TEST_F(RcdTest, BlocksWithMeasuredCurrentAndTouchVoltage) {

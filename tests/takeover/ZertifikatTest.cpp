@@ -46,18 +46,6 @@ protected:
     QString anlage(const QString& spalten) const { return felder("0100U_CertNic", "pid = 200", spalten); }
 };
 
-// A value with a sign is judged by its sign alone: one marked worse always wins, even over another
-// marked value, and a plain number never beats a marked old value.
-TEST_F(ZertifikatTest, SignedValuesAreDecidedByTheirSign) {
-    zertifikat({"T board|150|A", "T min|200|MOhm"});
-    zertifikat({"T board|>3|A", "T min|>500|MOhm"});
-    EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">3 200");
-    zertifikat({"T board|5000|A", "T min|<1|MOhm"});
-    EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">3 <1");
-    zertifikat({"T board|>2|A", "T min|0,1|MOhm", "T min|<0,5|MOhm"});
-    EXPECT_EQ(verteiler("ZsMax") + " " + kreis("RISO"), ">2 <0,5");
-}
-
 // An old circuit without measurement row gets one from its first value, by a value procedure or by
 // an RCD handler; a board or certificate record that is missing is not made.
 TEST_F(ZertifikatTest, OnlyTheCircuitGetsAMissingRecord) {
