@@ -53,6 +53,11 @@ const QHash<QString, QString>& schemaSchreibweisen() {
     return namen;
 }
 
+// A column of a table as the schema spells it; empty where the schema has no such column.
+QString schemaSchreibweise(const QString& tabelle, const QString& spalte) {
+    return schemaSchreibweisen().value(tabelle.toLower() + '.' + spalte.toLower());
+}
+
 // The server folds the names it gives back to lower case; the user reads a column's name as the
 // statement or the schema writes it: an alias as the statement spells it, a table's column as the
 // schema does.
@@ -63,9 +68,8 @@ QString schreibweise(const QString& name, const Ergebnisspalte& s, const QString
     for (auto it = alias.globalMatch(sql); it.hasNext();)
         if (const QString a = it.next().captured(1); a.compare(name, Qt::CaseInsensitive) == 0)
             return a;
-    if (name == s.ursprung)
-        return schemaSchreibweisen().value(s.tabelle.toLower() + '.' + name, name);
-    return name;
+    const QString geschrieben = name == s.ursprung ? schemaSchreibweise(s.tabelle, name) : QString();
+    return geschrieben.isEmpty() ? name : geschrieben;
 }
 
 // The server's error as the store's, numbered as the system's messages number SQLite's: a lock
@@ -448,9 +452,8 @@ PostgresVerbindung::spaltenBeschreiben(const QString& zitierterName) {
         // A literal ('xxxxx'::character varying, 48) keeps its value; CURRENT_DATE is evaluated anew.
         const bool literal = vorgabe.startsWith('\'') || (!vorgabe.isEmpty() && vorgabe[0].isDigit());
         const QString name = s.wert(0).toString();
-        const QString tabelle = QString(zitierterName).remove('"').toLower();
         spalten.push_back({name, s.wert(1).toString(), vorgabe, !vorgabe.isEmpty() && !literal,
-                           schemaSchreibweisen().value(tabelle + '.' + name)});
+                           schemaSchreibweise(QString(zitierterName).remove('"'), name)});
     }
     return spalten;
 }
